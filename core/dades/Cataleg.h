@@ -1,0 +1,36 @@
+// The tables of a database with the types that the system's dialect gives their columns.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// CODI is a text that identifies (ordered as written); TEXT is one that is read (ordered as a dictionary does).
+// Neither tells upper case from lower case; accents count.
+enum class Tipus_Columna { Codi, Text, Llarg, Curt, Doble, Boolea, Data, Data_Hora, Autonumeric };
+
+struct Columna {
+  std::string nom;
+  Tipus_Columna tipus = Tipus_Columna::Text;
+};
+
+struct Taula {
+  std::string nom;
+  std::vector<Columna> columnes;
+  std::vector<std::string> clau;  // columns of the primary key, in order; empty: none
+
+  const Columna* Cercar(std::string_view nom_columna) const;  // any case
+};
+
+class Cataleg {
+ public:
+  void Afegir(Taula taula);
+  const Taula* Cercar(std::string_view nom) const;            // any case
+  const Columna* Cercar_Columna(std::string_view nom) const;  // in any table; column names are unique in practice
+  const std::map<std::string, Taula>& Taules() const { return taules_; }
+
+ private:
+  std::map<std::string, Taula> taules_;         // by folded name
+  std::map<std::string, Columna> per_columna_;  // by folded name
+};

@@ -1,0 +1,57 @@
+// A connection to one database, in the system's own statements and transactions.
+//
+// The address is the path of a SQLite file (which must exist) or postgresql://host/base. Statements are written in
+// the system's dialect (Dialecte.h); every literal becomes a bound parameter. BeginTrans only marks the start: the
+// engine's transaction begins with the first write after it. A failed statement leaves the transaction usable.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/dades/Cataleg.h"
+#include "core/dades/Valor.h"
+
+class Motor;
+
+class Connexio {
+ public:
+  Connexio();
+  ~Connexio();
+  Connexio(const Connexio&) = delete;
+  Connexio& operator=(const Connexio&) = delete;
+
+  // Opens an existing database. Raises 0x80004005 with the engine's number and words.
+  void Open(const std::string& adreca);
+  void Close();
+  bool Es_Oberta() const { return motor_ != nullptr; }
+  const std::string& Adreca() const { return adreca_; }
+
+  // Runs a statement and returns how many rows it touched (0 for a definition of a table).
+  int Execute(std::string_view sentencia);
+
+  void BeginTrans();
+  void CommitTrans();
+  void RollbackTrans();
+  bool En_Transaccio() const;
+
+  // Tables and columns as the dialect declares them.
+  const Cataleg& Taules() const;
+  // Empty when the database is sound, else what is wrong with it, in the engine's words.
+  std::string Comprovar_Integritat();
+
+  Motor& motor();  // for Recordset
+
+ private:
+  std::unique_ptr<Motor> motor_;
+  std::string adreca_;
+};
+
+// Creates a new, empty database at the address (a file that does not exist yet) for Open and CREATE TABLE.
+// Raises 1008 when there is something already.
+void Crear_Base_Dades(const std::string& adreca);
+
+// 'valor' between single quotes for a statement. Quotes are not doubled: a value that holds one is refused with the
+// faulty-statement error, so that typed text never becomes part of a statement.
+std::string Text_SQL(std::string_view valor);

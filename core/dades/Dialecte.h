@@ -1,0 +1,55 @@
+// The system's dialect of SQL, translated in one place for every engine.
+//
+// Escanejar lifts every literal of a statement into a parameter and leaves the statement's shape; statements that
+// differ only in their values share a shape, which is translated and prepared once. Traduir rewrites a shape:
+// DELETE *, TOP n, BETWEEN with its bounds in either order, an alias used again in its select list, a grouped set in
+// the order of its groups, dictionary order for texts, derived tables without a name, hidden keys for sets that are
+// written, names in any case. See docs/dialect.md.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/dades/Cataleg.h"
+#include "core/dades/Valor.h"
+
+// What an engine calls things.
+struct Trets_Motor {
+  char marcador;                  // before a parameter's number: ? or $
+  std::string_view ordre_catala;  // behind an ORDER BY item that is a text
+  std::string_view clau_oculta;   // the hidden key of a table's row
+  std::string_view menor;         // scalar functions of two values
+  std::string_view major;
+};
+
+struct Sentencia_Escanejada {
+  std::string forma;  // literals are ?1, ?2...
+  std::vector<Valor> literals;
+};
+
+// Raises the faulty-statement error: an unclosed quote, a date that is none, more than one statement.
+Sentencia_Escanejada Escanejar(std::string_view sentencia);
+
+struct Sentencia_Traduida {
+  std::string text;                        // in the engine's own SQL
+  std::vector<std::pair<int, int>> entre;  // parameters (from 0) that are the two bounds of a BETWEEN
+  std::vector<std::optional<Tipus_Columna>> tipus_expressions;  // of the select items that are no plain column
+  std::string taula_editable;  // the table whose hidden key was added as the last column
+};
+
+// `taula_editable` asks for the hidden key of that table; "*" of the only table when there is just one.
+Sentencia_Traduida Traduir(const std::string& forma, const Cataleg& taules, const Trets_Motor& trets,
+                           std::string_view taula_editable = {});
+
+// A definition: CREATE TABLE with the dialect's types, or CREATE INDEX.
+struct Definicio {
+  std::optional<Taula> taula;         // none for an index
+  std::vector<std::string> columnes;  // the rest of each column's text (NOT NULL, DEFAULT...), as many as in `taula`
+  std::vector<std::string> regles;    // keys and relations
+  std::string text;                   // of an index, as it stands
+};
+bool Es_Definicio(std::string_view sentencia);
+Definicio Llegir_Definicio(std::string_view sentencia);

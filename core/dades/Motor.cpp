@@ -1,0 +1,21 @@
+#include "core/dades/Motor.h"
+
+#include <unordered_map>
+
+namespace {
+constexpr std::size_t traduccions_guardades = 1000;
+}
+
+struct Motor::Record_Traduccions {
+  std::unordered_map<std::string, Sentencia_Traduida> per_forma;
+};
+
+const Sentencia_Traduida& Motor::Traduccio(const std::string& forma, std::string_view taula_editable) {
+  if (!traduccions_) traduccions_ = std::make_shared<Record_Traduccions>();
+  auto& record = traduccions_->per_forma;
+  std::string clau = forma;
+  clau.append(1, '\n').append(taula_editable);
+  if (const auto it = record.find(clau); it != record.end()) return it->second;
+  if (record.size() >= traduccions_guardades) record.clear();
+  return record.emplace(std::move(clau), Traduir(forma, Taules(), Trets(), taula_editable)).first->second;
+}

@@ -1,0 +1,61 @@
+// What an engine has to offer to the data layer: the two of them stand behind this and nothing else knows which one
+// is at work. Everything of one engine alone stays in its own file.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/dades/Cataleg.h"
+#include "core/dades/Dialecte.h"
+#include "core/dades/Files_Memoria.h"
+#include "core/dades/Valor.h"
+
+struct Columna_Resultat {
+  std::string nom;
+  std::string taula;   // empty for an expression
+  std::string origen;  // column of the table
+};
+
+class Motor {
+ public:
+  virtual ~Motor() = default;
+
+  virtual const Cataleg& Taules() const = 0;
+  virtual const Trets_Motor& Trets() const = 0;
+
+  // Statements in the engine's own SQL, kept prepared by their text. Reading fills `files` and, when asked, tells the
+  // columns. Both return how many rows were written; a write begins the transaction that BeginTrans marked.
+  virtual int Executar(const std::string& sql, const std::vector<Valor>& parametres) = 0;
+  virtual int Consultar(const std::string& sql, const std::vector<Valor>& parametres, Files_Memoria& files,
+                        std::vector<Columna_Resultat>* columnes) = 0;
+  // A definition of a table or index, entered in the catalogue.
+  virtual void Definir(const Definicio& definicio) = 0;
+
+  virtual void BeginTrans() = 0;
+  virtual void CommitTrans() = 0;
+  virtual void RollbackTrans() = 0;
+  virtual bool En_Transaccio() const = 0;
+
+  // "column is the value of the parameter", nulls and capitals included.
+  virtual std::string Condicio_Identica(const Columna& columna, int parametre) const = 0;
+
+  // Holds a row against other terminals while it is in edit; false when another holds it. A hold ends with
+  // Deixar_Anar, with the connection, and with the process whatever its end.
+  virtual bool Retenir(const std::string& taula, const Valor& clau) = 0;
+  virtual void Deixar_Anar(const std::string& taula, const Valor& clau) = 0;
+
+  virtual std::string Comprovar_Integritat() = 0;
+
+  // A statement's translation, kept by its shape and the table that is to be written.
+  const Sentencia_Traduida& Traduccio(const std::string& forma, std::string_view taula_editable);
+
+ private:
+  struct Record_Traduccions;
+  std::shared_ptr<Record_Traduccions> traduccions_;
+};
+
+std::unique_ptr<Motor> Obrir_Motor_SQLite(const std::string& cami);
+void Crear_Fitxer_SQLite(const std::string& cami);

@@ -1,0 +1,429 @@
+#include "core/dades/Recordset.h"
+
+#include <algorithm>
+#include <map>
+
+#include "core/dades/Connexio.h"
+#include "core/dades/Error_Brollador.h"
+#include "core/dades/Filtre.h"
+#include "core/dades/Motor.h"
+#include "core/dades/Parametres_Sentencia.h"
+#include "core/dades/Text.h"
+
+namespace {
+
+// By source text; the first one opened counts.
+std::map<std::string, Recordset*, std::less<>>& Registre() {
+  static std::map<std::string, Recordset*, std::less<>> registre;
+  return registre;
+}
+
+struct Canvi {
+  int camp;
+  Valor valor;
+};
+
+}  // namespace
+
+struct Recordset::Interior {
+  std::string font;
+  Connexio* connexio = nullptr;
+  Bloqueig bloqueig = Bloqueig::Lectura;
+  std::string taula_unica;
+  bool obert = false;
+
+  std::vector<Camp> camps;
+  Files_Memoria files;
+  std::string taula_editable;  // empty: the set cannot be written
+  std::size_t columna_clau = 0;
+
+  std::string text_filtre;
+  std::vector<Condicio_Filtre> filtre;
+  std::vector<std::size_t> visibles;  // rows that the filter lets through; not used without a filter
+
+  std::int64_t posicio = 0;  // among the visible rows; -1 before the first, the count past the last
+
+  Edicio edicio = Edicio::Cap;
+  std::vector<Canvi> canvis;
+  bool retinguda = false;
+
+  Motor& motor() const { return connexio->motor(); }
+
+  std::int64_t Quantes() const {
+    return static_cast<std::int64_t>(text_filtre.empty() ? files.Files() : visibles.size());
+  }
+
+  std::size_t Fila(std::int64_t visible) const {
+    const auto index = static_cast<std::size_t>(visible);
+    return text_filtre.empty() ? index : visibles[index];
+  }
+
+  bool Sobre_Una_Fila() const { return posicio >= 0 && posicio < Quantes(); }
+
+  void Exigir_Obert() const {
+    if (!obert) throw Error_Brollador(errors::general, "Recordset", "the recordset is closed");
+  }
+
+  std::size_t Fila_Actual() const {
+    Exigir_Obert();
+    if (!Sobre_Una_Fila()) throw Error_Brollador(errors::general, "Recordset", "no current row: " + font);
+    return Fila(posicio);
+  }
+
+  const Valor* Canvi_De(int camp) const {
+    for (const auto& canvi : canvis) {
+      if (canvi.camp == camp) return &canvi.valor;
+    }
+    return nullptr;
+  }
+
+  Valor Clau(std::size_t fila) const { return files.Valor_De(fila, columna_clau, Tipus_Columna::Llarg); }
+
+  void Llegir();
+  void Descriure(const std::vector<Columna_Resultat>& columnes, const Sentencia_Traduida& traduida);
+  void Filtrar();
+  void Exigir_Editable() const;
+  void Retenir();
+  void Acabar_Edicio();
+  void Desar_Canvi();
+  void Desar_Alta();
+  const Columna& Columna_De(const Camp& camp) const;
+  Files_Memoria Inserir();
+};
+
+void Recordset::Interior::Llegir() {
+  const bool nom_de_taula = font.find(' ') == std::string::npos;
+  Sentencia_Escanejada escanejada = Escanejar(nom_de_taula ? "SELECT * FROM " + font : font);
+  std::string_view editable;
+  if (bloqueig != Bloqueig::Lectura) editable = taula_unica.empty() ? std::string_view("*") : taula_unica;
+  const Sentencia_Traduida& traduida = motor().Traduccio(escanejada.forma, editable);
+  Ordenar_Entre(traduida.entre, escanejada.literals);
+  std::vector<Columna_Resultat> columnes;
+  motor().Consultar(traduida.text, escanejada.literals, files, camps.empty() ? &columnes : nullptr);
+  if (camps.empty()) Descriure(columnes, traduida);
+  Filtrar();
+  posicio = 0;
+}
+
+void Recordset::Interior::Descriure(const std::vector<Columna_Resultat>& columnes, const Sentencia_Traduida& traduida) {
+  taula_editable = traduida.taula_editable;
+  columna_clau = columnes.size() - 1;
+  const std::size_t visibles_al_usuari = columnes.size() - (taula_editable.empty() ? 0 : 1);
+  for (std::size_t i = 0; i < visibles_al_usuari; ++i) {
+    Camp camp{.nom = columnes[i].nom, .taula = columnes[i].taula, .origen = columnes[i].origen};
+    const Taula* taula = camp.taula.empty() ? nullptr : motor().Taules().Cercar(camp.taula);
+    const Columna* columna = taula == nullptr ? nullptr : taula->Cercar(camp.origen);
+    if (columna != nullptr) {
+      camp.tipus = columna->tipus;
+    } else if (traduida.tipus_expressions.size() == visibles_al_usuari && traduida.tipus_expressions[i]) {
+      camp.tipus = *traduida.tipus_expressions[i];
+    }
+    camps.push_back(std::move(camp));
+  }
+}
+
+void Recordset::Interior::Filtrar() {
+  visibles.clear();
+  if (text_filtre.empty()) return;
+  for (std::size_t fila = 0; fila < files.Files(); ++fila) {
+    const bool passa = std::all_of(filtre.begin(), filtre.end(), [&](const Condicio_Filtre& condicio) {
+      const auto camp = static_cast<std::size_t>(condicio.camp);
+      return Compleix(condicio, files.Valor_De(fila, camp, camps[camp].tipus));
+    });
+    if (passa) visibles.push_back(fila);
+  }
+}
+
+void Recordset::Interior::Exigir_Editable() const {
+  Exigir_Obert();
+  if (bloqueig == Bloqueig::Lectura || taula_editable.empty()) {
+    throw Error_Brollador(errors::general, "Recordset", "the recordset cannot be written: " + font);
+  }
+}
+
+void Recordset::Interior::Retenir() {
+  if (bloqueig != Bloqueig::Pessimista || retinguda) return;
+  if (!motor().Retenir(taula_editable, Clau(Fila_Actual()))) {
+    throw Error_Brollador(errors::general, "Recordset", Descripcio_Error(errors::fila_retinguda));
+  }
+  retinguda = true;
+}
+
+void Recordset::Interior::Acabar_Edicio() {
+  if (retinguda) motor().Deixar_Anar(taula_editable, Clau(Fila(posicio)));
+  retinguda = false;
+  edicio = Edicio::Cap;
+  canvis.clear();
+}
+
+const Columna& Recordset::Interior::Columna_De(const Camp& camp) const {
+  const Taula* taula = motor().Taules().Cercar(taula_editable);
+  const Columna* columna = Iguals_Plegats(camp.taula, taula_editable) ? taula->Cercar(camp.origen) : nullptr;
+  if (columna == nullptr) throw Error_Brollador(errors::general, "Recordset", camp.nom + " cannot be written");
+  return *columna;
+}
+
+// UPDATE of the row by its hidden key, if its columns still hold what was read.
+void Recordset::Interior::Desar_Canvi() {
+  if (canvis.empty()) return;
+  const std::size_t fila = Fila_Actual();
+  std::string posar;
+  std::vector<Valor> parametres;
+  const auto marcador = [&] { return motor().Trets().marcador + std::to_string(parametres.size()); };
+  for (const auto& canvi : canvis) {
+    parametres.push_back(canvi.valor);
+    posar += (posar.empty() ? "\"" : ", \"") + Columna_De(camps[static_cast<std::size_t>(canvi.camp)]).nom +
+             "\" = " + marcador();
+  }
+  parametres.push_back(Clau(fila));
+  std::string on = " WHERE " + std::string(motor().Trets().clau_oculta) + " = " + marcador();
+  for (const auto& canvi : canvis) {
+    const auto camp = static_cast<std::size_t>(canvi.camp);
+    parametres.push_back(files.Valor_De(fila, camp, camps[camp].tipus));
+    on += " AND " + motor().Condicio_Identica(Columna_De(camps[camp]), static_cast<int>(parametres.size()));
+  }
+  const std::string sql = "UPDATE \"" + taula_editable + "\" SET " + posar + on;
+  if (motor().Executar(sql, parametres) == 0) Llancar_Error(errors::concurrencia, "Recordset");
+  for (const auto& canvi : canvis) files.Posar(fila, static_cast<std::size_t>(canvi.camp), canvi.valor);
+}
+
+Files_Memoria Recordset::Interior::Inserir() {
+  std::string noms;
+  std::string marcadors;
+  std::vector<Valor> parametres;
+  for (const auto& canvi : canvis) {
+    parametres.push_back(canvi.valor);
+    const char* coma = noms.empty() ? "" : ", ";
+    noms += coma + ("\"" + Columna_De(camps[static_cast<std::size_t>(canvi.camp)]).nom + "\"");
+    marcadors += coma + (motor().Trets().marcador + std::to_string(parametres.size()));
+  }
+  const std::string valors = noms.empty() ? " DEFAULT VALUES" : " (" + noms + ") VALUES (" + marcadors + ")";
+  std::string torna;
+  for (const auto& camp : camps)
+    torna += Iguals_Plegats(camp.taula, taula_editable) ? "\"" + camp.origen + "\", " : "NULL, ";
+  Files_Memoria nova;
+  motor().Consultar("INSERT INTO \"" + taula_editable + "\"" + valors + " RETURNING " + torna +
+                        std::string(motor().Trets().clau_oculta),
+                    parametres, nova, nullptr);
+  return nova;
+}
+
+void Recordset::Interior::Desar_Alta() {
+  const Files_Memoria nova = Inserir();
+  files.Afegir_Fila_Buida();
+  files.Copiar_Fila(files.Files() - 1, nova, 0);
+  if (!text_filtre.empty()) visibles.push_back(files.Files() - 1);
+  posicio = Quantes() - 1;
+}
+
+// ---- The recordset ----------------------------------------------------------------------------------------------
+
+Recordset::Recordset() : d_(std::make_unique<Interior>()) {}
+
+Recordset::Recordset(std::string_view font, Connexio& connexio, Bloqueig bloqueig) : Recordset() {
+  Open(font, connexio, bloqueig);
+}
+
+Recordset::~Recordset() {
+  if (d_->obert) Close();
+}
+
+void Recordset::Unique_Table(std::string taula) {
+  d_->taula_unica = std::move(taula);
+}
+
+void Recordset::Open(std::string_view font, Connexio& connexio, Bloqueig bloqueig) {
+  if (d_->obert) Close();
+  d_->font = font;
+  d_->connexio = &connexio;
+  d_->bloqueig = bloqueig;
+  d_->camps.clear();
+  d_->text_filtre.clear();
+  d_->Llegir();
+  d_->obert = true;
+  Registrar_Recordset(*this);
+}
+
+void Recordset::Requery() {
+  d_->Exigir_Obert();
+  CancelUpdate();
+  d_->Llegir();
+}
+
+void Recordset::Close() {
+  if (!d_->obert) return;
+  CancelUpdate();
+  Desregistrar_Recordset(*this);
+  d_->obert = false;
+  d_->files.Buidar(0);
+  d_->visibles.clear();
+  d_->text_filtre.clear();
+}
+
+bool Recordset::State() const {
+  return d_->obert;
+}
+const std::string& Recordset::Source() const {
+  return d_->font;
+}
+
+std::int64_t Recordset::RecordCount() const {
+  d_->Exigir_Obert();
+  return d_->Quantes();
+}
+
+bool Recordset::Eof() const {
+  return d_->posicio >= RecordCount();
+}
+bool Recordset::Bof() const {
+  return RecordCount() == 0 || d_->posicio < 0;
+}
+
+void Recordset::MoveFirst() {
+  Move_Des_Del_Primer(0);
+}
+void Recordset::MoveLast() {
+  Move_Des_Del_Primer(RecordCount() - 1);
+}
+void Recordset::MoveNext() {
+  Move(1);
+}
+void Recordset::MovePrevious() {
+  Move(-1);
+}
+void Recordset::Move(std::int64_t files) {
+  Move_Des_Del_Primer(d_->posicio + files);
+}
+
+// Leaving a row in edit saves it.
+void Recordset::Move_Des_Del_Primer(std::int64_t files) {
+  d_->Exigir_Obert();
+  if (d_->edicio != Edicio::Cap) Update();
+  const std::int64_t quantes = d_->Quantes();
+  if (quantes == 0) throw Error_Brollador(errors::general, "Recordset", "the recordset is empty: " + d_->font);
+  d_->posicio = std::clamp<std::int64_t>(files, -1, quantes);
+}
+
+std::int64_t Recordset::AbsolutePosition() const {
+  if (RecordCount() == 0) return -1;
+  if (d_->posicio < 0) return posicio_inici;
+  return Eof() ? posicio_final : d_->posicio + 1;
+}
+
+void Recordset::AbsolutePosition(std::int64_t posicio) {
+  Move_Des_Del_Primer(posicio - 1);
+}
+
+const std::vector<Camp>& Recordset::Fields() const {
+  return d_->camps;
+}
+
+int Recordset::Index_Camp(std::string_view nom) const {
+  for (std::size_t i = 0; i < d_->camps.size(); ++i) {
+    if (Iguals_Plegats(d_->camps[i].nom, nom)) return static_cast<int>(i);
+  }
+  Llancar_Error(errors::camp_no_trobat, "Recordset", std::string(nom));
+}
+
+Valor Recordset::operator[](std::string_view nom) const {
+  return (*this)[Index_Camp(nom)];
+}
+
+Valor Recordset::operator[](int camp) const {
+  if (const Valor* canvi = d_->Canvi_De(camp)) return *canvi;
+  if (d_->edicio == Edicio::Alta) return {};
+  const auto columna = static_cast<std::size_t>(camp);
+  return d_->files.Valor_De(d_->Fila_Actual(), columna, d_->camps.at(columna).tipus);
+}
+
+Valor Recordset::Valor_De_Fila(std::int64_t fila, int camp) const {
+  if (fila < 0 || fila >= RecordCount()) return {};
+  const auto columna = static_cast<std::size_t>(camp);
+  return d_->files.Valor_De(d_->Fila(fila), columna, d_->camps.at(columna).tipus);
+}
+
+void Recordset::Filter(std::string_view condicio) {
+  d_->Exigir_Obert();
+  CancelUpdate();
+  auto filtre = Llegir_Filtre(condicio, [this](std::string_view nom) { return Index_Camp(nom); });
+  d_->filtre = std::move(filtre);
+  d_->text_filtre = d_->filtre.empty() ? std::string() : std::string(condicio);
+  d_->Filtrar();
+  d_->posicio = 0;
+}
+
+const std::string& Recordset::Filter() const {
+  return d_->text_filtre;
+}
+
+void Recordset::AddNew() {
+  d_->Exigir_Editable();
+  if (d_->edicio != Edicio::Cap) Update();
+  d_->edicio = Edicio::Alta;
+}
+
+void Recordset::Set(std::string_view nom, const Valor& valor) {
+  d_->Exigir_Editable();
+  const int camp = Index_Camp(nom);
+  Valor convertit = Convertir_A_Columna(valor, d_->Columna_De(d_->camps[static_cast<std::size_t>(camp)]).tipus);
+  if (d_->edicio == Edicio::Cap) {
+    d_->Fila_Actual();
+    d_->Retenir();
+    d_->edicio = Edicio::Canvi;
+  }
+  std::erase_if(d_->canvis, [camp](const Canvi& canvi) { return canvi.camp == camp; });
+  d_->canvis.push_back({camp, std::move(convertit)});
+}
+
+// The edit stays pending when it fails: the caller cancels it or tries again.
+void Recordset::Update() {
+  d_->Exigir_Obert();
+  if (d_->edicio == Edicio::Canvi) d_->Desar_Canvi();
+  if (d_->edicio == Edicio::Alta) d_->Desar_Alta();
+  d_->Acabar_Edicio();
+}
+
+void Recordset::CancelUpdate() {
+  d_->Acabar_Edicio();
+}
+
+void Recordset::Delete() {
+  d_->Exigir_Editable();
+  CancelUpdate();
+  const std::size_t fila = d_->Fila_Actual();
+  const std::string sql = "DELETE FROM \"" + d_->taula_editable + "\" WHERE " +
+                          std::string(d_->motor().Trets().clau_oculta) + " = " + d_->motor().Trets().marcador + "1";
+  if (d_->motor().Executar(sql, {d_->Clau(fila)}) == 0) Llancar_Error(errors::concurrencia, "Recordset");
+  d_->files.Esborrar_Fila(fila);
+  d_->Filtrar();
+  d_->posicio = std::min(d_->posicio, d_->Quantes() - 1);
+}
+
+Edicio Recordset::EditMode() const {
+  return d_->edicio;
+}
+
+// ---- The registry -----------------------------------------------------------------------------------------------
+
+void Registrar_Recordset(Recordset& rs) {
+  Registre().emplace(rs.Source(), &rs);
+}
+
+void Desregistrar_Recordset(Recordset& rs) {
+  if (const auto it = Registre().find(rs.Source()); it != Registre().end()) Registre().erase(it);
+}
+
+void Tancar_Recordsets() {
+  while (!Registre().empty()) {
+    Recordset* rs = Registre().begin()->second;
+    Registre().erase(Registre().begin());
+    if (rs->State()) rs->Close();
+  }
+}
+
+std::size_t Comptar_Recordsets_Oberts() {
+  return Registre().size();
+}
+bool Recordset_Registrat(std::string_view font) {
+  return Registre().find(font) != Registre().end();
+}
