@@ -6,7 +6,7 @@
 #include "core/dades/Dates.h"
 
 namespace {
-constexpr std::size_t mida_bloc = 64 * 1024;
+constexpr std::size_t mida_bloc = 65536;
 constexpr std::size_t mida_primer_bloc = 1024;  // most sets hold one row
 }  // namespace
 

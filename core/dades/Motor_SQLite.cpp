@@ -221,8 +221,10 @@ class Motor_SQLite final : public Motor {
 
   static std::vector<Columna_Resultat> Columnes_De(sqlite3_stmt* sentencia) {
     const auto text = [](const char* t) { return std::string(t == nullptr ? "" : t); };
+    const int quantes = sqlite3_column_count(sentencia);
     std::vector<Columna_Resultat> columnes;
-    for (int i = 0; i < sqlite3_column_count(sentencia); ++i) {
+    columnes.reserve(static_cast<std::size_t>(quantes));
+    for (int i = 0; i < quantes; ++i) {
       columnes.push_back({text(sqlite3_column_name(sentencia, i)), text(sqlite3_column_table_name(sentencia, i)),
                           text(sqlite3_column_origin_name(sentencia, i))});
     }

@@ -244,6 +244,16 @@ void Recordset::Open(std::string_view font, Connexio& connexio, Bloqueig bloquei
   Registrar_Recordset(*this);
 }
 
+void Recordset::Reopen(std::string_view font) {
+  const std::string abans = Source();
+  try {
+    Open(font, *d_->connexio, d_->bloqueig);
+  } catch (const Error_Brollador&) {
+    Open(abans, *d_->connexio, d_->bloqueig);
+    throw;
+  }
+}
+
 void Recordset::Requery() {
   d_->Exigir_Obert();
   CancelUpdate();

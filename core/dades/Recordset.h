@@ -43,6 +43,8 @@ class Recordset {
 
   void Unique_Table(std::string taula);  // before Open
   void Open(std::string_view font, Connexio& connexio, Bloqueig bloqueig = Bloqueig::Lectura);
+  // Another statement with the parameters of before; when it fails the old one stays open.
+  void Reopen(std::string_view font);
   void Requery();  // keeps the filter; first row current
   void Close();
   bool State() const;  // open

@@ -250,6 +250,18 @@ TEST_F(Conjunt, A_hold_goes_with_the_connection_of_a_dead_terminal) {
   EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"), Valor("B"));
 }
 
+TEST_F(Conjunt, Reopen_takes_another_statement_and_a_faulty_one_leaves_the_old_set) {
+  Client("1", "B");
+  Client("2", "A");
+  Recordset rs("SELECT * FROM CLIENTS ORDER BY NIF_CLI", connexio, Bloqueig::Optimista);
+  rs.Reopen("SELECT * FROM CLIENTS ORDER BY RAO_SOCIAL_CLI");
+  EXPECT_EQ(rs["NIF_CLI"], Valor("2"));
+  EXPECT_EQ(Numero_Error([&] { rs.Reopen("SELECT * FROM CLIENTS ORDER BY RES_DE_RES"); }), errors::sentencia);
+  EXPECT_EQ(rs.RecordCount(), 2);
+  rs.Set("ADREÇA_CLI", "Carrer");
+  rs.Update();
+}
+
 TEST_F(Conjunt, The_registry_follows_opening_and_closing) {
   const std::size_t abans = Comptar_Recordsets_Oberts();
   {

@@ -1,0 +1,17 @@
+// Who is at the terminal and what they may do. Reads USUARIS, EMPRESES; writes USUARIS.
+#pragma once
+
+#include "core/Sessio.h"
+
+// Checks code and password (an inactive user is the same as none) and fills user, language and company of the session
+// (the chooser runs when the user's company does not exist). False when they do not match; nothing changes then.
+bool Iniciar_Sessio(const std::string& usuari, const std::string& contrasenya);
+
+void Habilitar_Menus(bool sessio_iniciada);
+// The ten rights of the user into the session, and the menu by them.
+void Carregar_Drets(const std::string& usuari);
+bool Te_Acces(const std::string& dret);  // "C", "S" or "M", exactly
+// Ticks the language and writes user and company in the menu bar.
+void Actualitzar_Menu_Sessio();
+// First free ten-digit code of a table (ARTICLES, CLIENTS, PROVEIDORS, USUARIS, FAMILIES, EMPRESES).
+std::string Proxim_Codi(const std::string& taula);

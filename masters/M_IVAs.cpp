@@ -1,0 +1,32 @@
+#include "masters/M_IVAs.h"
+
+#include "core/Sessio.h"
+#include "core/dades/Numeros.h"
+
+namespace {
+
+Tipus_IVA Llegir_Tipus(const std::string& condicio) {
+  const Recordset rs("SELECT * FROM IVAS WHERE " + condicio, sessio.Connexio_Comuna);
+  if (rs.RecordCount() == 0) return {};
+  return {rs["CODI_IVA"], rs["DESC_IVA"], rs["PORC_IVA"], rs["RE_IVA"]};
+}
+
+// Of two types at one percentage the first by its code counts.
+std::string Condicio_Percentatge(double percentatge) {
+  return "PORC_IVA = " + Text_Numero(percentatge) + " ORDER BY CODI_IVA";
+}
+
+}  // namespace
+
+Tipus_IVA Dades_IVA(const std::string& codi) {
+  return Llegir_Tipus("CODI_IVA = " + Text_SQL(codi));
+}
+
+Tipus_IVA Dades_IVA_Percentatge(double percentatge) {
+  return Llegir_Tipus(Condicio_Percentatge(percentatge));
+}
+
+std::string Codi_IVA_Percentatge(double percentatge) {
+  const Recordset rs("SELECT CODI_IVA FROM IVAS WHERE " + Condicio_Percentatge(percentatge), sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 ? rs["CODI_IVA"].Text() : std::string();
+}

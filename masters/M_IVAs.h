@@ -1,0 +1,18 @@
+// VAT types. Reads IVAS at every call.
+#pragma once
+
+#include <string>
+
+#include "core/dades/Valor.h"
+
+struct Tipus_IVA {
+  Valor codi;  // all four null when there is no such type
+  Valor descripcio;
+  Valor porc_iva;  // percent
+  Valor porc_re;   // percent, equivalence surcharge
+};
+
+Tipus_IVA Dades_IVA(const std::string& codi);
+// The percentage goes into the statement as its plain text, with a comma: 7,5 is no statement and raises that error.
+Tipus_IVA Dades_IVA_Percentatge(double percentatge);
+std::string Codi_IVA_Percentatge(double percentatge);  // first by key; empty when none

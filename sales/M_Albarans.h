@@ -1,0 +1,33 @@
+// Delivery notes: the document that moves stock, serves orders and is invoiced. Reads and writes ALBARACAP, ALBARALIN,
+// ALBARAPEU; through their modules STOCK, MOVIMIENTOS, COMANDALIN, COMANDACAP, PRESSUPOSTLIN, PRESSUPOSTCAP.
+#pragma once
+
+#include "sales/Documents.h"
+
+std::int64_t Crear_Capcalera_Albara();
+std::int64_t Seguent_Numero_Albara(const std::string& empresa);
+std::int16_t Seguent_Linia_Albara(std::int64_t numero, const std::string& empresa);
+bool Existeix_Albara(std::int64_t numero, const std::string& empresa);
+std::int64_t Comptar_Linies_Albara(std::int64_t numero, const std::string& empresa);
+double Total_Peu_Albara(std::int64_t numero, const std::string& empresa);
+bool Hi_Ha_Descomptes_Albara(std::int64_t numero, const std::string& empresa);
+
+// Asks and deletes a whole note: no stock, no served units, no order is touched. Refused when it holds payments.
+void Esborrar_Albara(std::int64_t numero, const std::string& empresa);
+// True when the note is invoiced or any of its lines serves an order.
+bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa);
+
+// Writes a line on the form's line recordset: row, link and served units of the order, foot, stock and journal.
+// Call it inside a transaction. Raises 1010 when the stock could not be posted (already shown), 6, 13 or the engine's.
+void Afegir_Linia_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
+                         Document_Obert& obert);
+// Asks, gives the stock back, undoes the links and deletes the line. False when the user said no.
+bool Esborrar_Linia_Albara(std::int64_t numero, const std::string& empresa, std::int16_t linia,
+                           const std::string& article, double unitats);
+// New rates on all lines after a change of customer; the foot is rebuilt. In a transaction of its own unless one is
+// open.
+void Recalcular_Linies_Albara(const Capcalera_Oberta& cap, Document_Obert& obert);
+// Exchanges a line with its neighbour: `avall` towards the end. False when there is none or proposal lines forbid it.
+bool Moure_Linia_Albara(std::int64_t numero, const std::string& empresa, std::int16_t linia, bool avall);
+// On closing: a note without lines and without payments goes. True when it went.
+bool Esborrar_Albara_Buit(std::int64_t numero, const std::string& empresa);

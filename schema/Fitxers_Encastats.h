@@ -1,0 +1,10 @@
+// The texts of the schema folder that travel inside the programs: name and contents.
+#pragma once
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+// "comuna.sql", "textos/F_ALBARA.tsv"...
+const std::vector<std::pair<std::string_view, std::string_view>>& Fitxers_Encastats();
+std::string_view Fitxer_Encastat(std::string_view nom);  // raises 53 when there is none

@@ -1,0 +1,205 @@
+#include "schema/Installador.h"
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+#include "core/dades/Error_Brollador.h"
+#include "core/dades/Recordset.h"
+#include "schema/Fitxers_Encastats.h"
+#include "schema/Textos.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Rows that every installation needs: the program asks for them by value.
+constexpr const char* files_necessaries[] = {
+    "INSERT INTO LANGUAGES (ID, DESCRIPTION) VALUES (0, 'Català')",
+    "INSERT INTO LANGUAGES (ID, DESCRIPTION) VALUES (1, 'Castellà')",
+    "INSERT INTO LANGUAGES (ID, DESCRIPTION) VALUES (2, 'English')",
+    "INSERT INTO IVAS (CODI_IVA, DESC_IVA, PORC_IVA, RE_IVA) VALUES ('GN', 'General', 21, 5.2)",
+    "INSERT INTO IVAS (CODI_IVA, DESC_IVA, PORC_IVA, RE_IVA) VALUES ('RD', 'Reduït', 10, 1.4)",
+    "INSERT INTO IVAS (CODI_IVA, DESC_IVA, PORC_IVA, RE_IVA) VALUES ('SR', 'Superreduït', 4, 0.5)",
+    "INSERT INTO IVAS (CODI_IVA, DESC_IVA, PORC_IVA, RE_IVA) VALUES ('EX', 'Exempt', 0, 0)",
+    "INSERT INTO FORMES_PAGAMENT (ID_FP, DESCRIPCIO_FP) VALUES ('EF', 'Efectiu')",
+    "INSERT INTO FORMES_PAGAMENT (ID_FP, DESCRIPCIO_FP) VALUES ('TR', 'Transferència')",
+    "INSERT INTO FORMES_PAGAMENT (ID_FP, DESCRIPCIO_FP) VALUES ('RE', 'Rebut domiciliat')",
+    "INSERT INTO VENCIMENTS (CODI_VEN, DESCRIPCIO_VEN, DIES_VEN, TERMINIS_VEN) VALUES ('NO', 'NO', 0, 0)",
+    "INSERT INTO VENCIMENTS (CODI_VEN, DESCRIPCIO_VEN, DIES_VEN, TERMINIS_VEN) VALUES ('30', '30 dies', 30, 1)",
+    "INSERT INTO VENCIMENTS (CODI_VEN, DESCRIPCIO_VEN, DIES_VEN, TERMINIS_VEN) VALUES ('3060', '30 i 60 dies', 30, 2)",
+    "INSERT INTO ALMACENES (CODI_ALM, DESC_ALM, STOCK_NEG_ALM) VALUES ('1', 'Magatzem central', 0)",
+};
+
+// Rows of the base installation alone.
+constexpr const char* files_de_base[] = {
+    "INSERT INTO ALMACENES (CODI_ALM, DESC_ALM, STOCK_NEG_ALM) VALUES ('2', 'Botiga', -1)",
+    "INSERT INTO CP (CP_CP, LOCALITAT_CP, PROVINCIA_CP, PAIS_CP) VALUES ('08001', 'Barcelona', 'Barcelona', 'Espanya')",
+    "INSERT INTO CP (CP_CP, LOCALITAT_CP, PROVINCIA_CP, PAIS_CP) VALUES ('17001', 'Girona', 'Girona', 'Espanya')",
+    "INSERT INTO CP (CP_CP, LOCALITAT_CP, PROVINCIA_CP, PAIS_CP) VALUES ('08720', 'Vilafranca del Penedès', "
+    "'Barcelona', "
+    "'Espanya')",
+};
+
+constexpr const char* drets[] = {"P_Clients",    "P_Proveidors",   "P_Articles", "P_Usuaris",  "P_CP",
+                                 "P_Venciments", "P_Pressupostos", "P_Comandes", "P_Albarans", "P_Factures"};
+
+// What has been made so far; taken away again unless the work is told done.
+class Obra {
+ public:
+  ~Obra() {
+    if (acabada_) return;
+    std::error_code ignorat;  // already failing: what cannot be taken away stays
+    for (auto it = fets_.rbegin(); it != fets_.rend(); ++it) fs::remove(*it, ignorat);
+  }
+  void Carpeta(const fs::path& cami) {
+    for (fs::path prefix = cami; !prefix.empty() && !fs::exists(prefix); prefix = prefix.parent_path()) {
+      pendents_.push_back(prefix);
+    }
+    for (; !pendents_.empty(); pendents_.pop_back()) {
+      fs::create_directory(pendents_.back());
+      fets_.push_back(pendents_.back());
+    }
+  }
+  void Fitxer(const fs::path& cami) { fets_.push_back(cami); }
+  void Acabada() { acabada_ = true; }
+
+ private:
+  std::vector<fs::path> pendents_;
+  std::vector<fs::path> fets_;
+  bool acabada_ = false;
+};
+
+// All of the work on one connection, kept or undone as one.
+void En_Transaccio(Connexio& connexio, const std::function<void()>& feina) {
+  connexio.BeginTrans();
+  try {
+    feina();
+    connexio.CommitTrans();
+  } catch (...) {
+    connexio.RollbackTrans();
+    throw;
+  }
+}
+
+void Exigir_Lliure(const fs::path& cami) {
+  if (fs::exists(cami)) Llancar_Error(errors::fitxer_existent, "brollador-install", cami.string());
+}
+
+void Crear_Carpeta_Dades(const Opcions_Installacio& opcions, Obra& obra) {
+  const fs::path carpeta(opcions.carpeta);
+  Exigir_Lliure(carpeta / "Brollador.ini");
+  Exigir_Lliure(carpeta / "dadeslocals.db");
+  for (const auto& cami : {carpeta, carpeta / "copia", carpeta / "Temp"}) obra.Carpeta(cami);
+  const std::string locals = carpeta / "dadeslocals.db";
+  Crear_Base_Dades(locals);
+  obra.Fitxer(locals);
+  Connexio local;
+  local.Open(locals);
+  En_Transaccio(local, [&] {
+    Executar_Fitxer(local, Fitxer_Encastat("local.sql"));
+    Carregar_Textos(local);
+  });
+  const fs::path ini = carpeta / "Brollador.ini";
+  obra.Fitxer(ini);
+  std::ofstream fitxer(ini);
+  fitxer << '"' << Adreca_Compartida(opcions) << "\"\n";
+  if (!fitxer.flush()) throw Error_Brollador(errors::general, "brollador-install", ini.string());
+}
+
+// A company that charges VAT, and the administrator who works in it.
+void Afegir_Empresa(Connexio& comuna, const Primera_Empresa& empresa) {
+  Recordset rs("EMPRESES", comuna, Bloqueig::Optimista);
+  rs.AddNew();
+  rs.Set("NIF_EMP", empresa.nif);
+  rs.Set("RAO_SOCIAL_EMP", empresa.rao_social);
+  rs.Set("ACTIU_EMP", true);
+  rs.Set("IVA_EMP", true);
+  rs.Update();
+  Recordset usuaris("USUARIS", comuna, Bloqueig::Optimista);
+  usuaris.AddNew();
+  usuaris.Set("CODI_USU", "ADMIN");
+  usuaris.Set("DESCRIPCIO_USU", "Administrador");
+  usuaris.Set("CLAU_USU", empresa.contrasenya);
+  usuaris.Set("EMPRESA_USU", empresa.nif);
+  for (const char* dret : drets) usuaris.Set(dret, "M");
+  usuaris.Update();
+}
+
+void Crear_Compartida(const Opcions_Installacio& opcions, const Primera_Empresa& empresa, bool de_base, Obra& obra) {
+  const std::string adreca = Adreca_Compartida(opcions);
+  Crear_Base_Dades(adreca);
+  obra.Fitxer(adreca);
+  Connexio comuna;
+  comuna.Open(adreca);
+  En_Transaccio(comuna, [&] {
+    Executar_Fitxer(comuna, Fitxer_Encastat("comuna.sql"));
+    for (const char* fila : files_necessaries) comuna.Execute(fila);
+    if (de_base) {
+      for (const char* fila : files_de_base) comuna.Execute(fila);
+    }
+    Afegir_Empresa(comuna, empresa);
+  });
+}
+
+void Crear(const Opcions_Installacio& opcions, const Primera_Empresa& empresa, bool de_base) {
+  Obra obra;
+  Crear_Carpeta_Dades(opcions, obra);
+  Crear_Compartida(opcions, empresa, de_base, obra);
+  obra.Acabada();
+}
+
+}  // namespace
+
+std::string Adreca_Compartida(const Opcions_Installacio& opcions) {
+  return opcions.compartida.empty() ? opcions.carpeta + "/comuna.db" : opcions.compartida;
+}
+
+void Crear_Base(const Opcions_Installacio& opcions) {
+  Crear(opcions, {.nif = "B00000000", .rao_social = "Empresa de prova", .contrasenya = ""}, true);
+}
+
+void Crear_Base(const std::string& carpeta, const std::string& compartida) {
+  Crear_Base(Opcions_Installacio{.carpeta = carpeta, .compartida = compartida});
+}
+
+void Crear_Buida(const Opcions_Installacio& opcions, const Primera_Empresa& empresa) {
+  Crear(opcions, empresa, false);
+}
+
+void Crear_Terminal(const Opcions_Installacio& opcions) {
+  Connexio comuna;
+  comuna.Open(opcions.compartida);  // it must be there and sound before a terminal points at it
+  Obra obra;
+  Crear_Carpeta_Dades(opcions, obra);
+  obra.Acabada();
+}
+
+void Executar_Fitxer(Connexio& connexio, std::string_view text) {
+  std::string sentencia;
+  for (std::size_t inici = 0; inici < text.size();) {
+    const std::size_t fi = std::min(text.find('\n', inici), text.size());
+    const std::string_view linia = text.substr(inici, fi - inici);
+    inici = fi + 1;
+    if (linia.starts_with("--")) continue;
+    sentencia.append(linia).append(1, '\n');
+    if (!linia.ends_with(';')) continue;
+    connexio.Execute(sentencia);
+    sentencia.clear();
+  }
+}
+
+void Carregar_Textos(Connexio& local) {
+  Recordset rs("SELECT * FROM TEXTS WHERE F_LANGUAGE = -1", local, Bloqueig::Optimista);
+  for (const auto& fila : Textos_De_Pantalles()) {
+    for (std::size_t idioma = 0; idioma < fila.text.size(); ++idioma) {
+      rs.AddNew();
+      rs.Set("F_OBJECT", fila.objecte);
+      rs.Set("F_LANGUAGE", static_cast<std::int64_t>(idioma));
+      rs.Set("F_CONTROL", fila.control);
+      rs.Set("F_PROPERTY", fila.propietat);
+      rs.Set("F_TEXT", fila.text[idioma]);
+      rs.Update();
+    }
+  }
+}

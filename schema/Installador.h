@@ -1,0 +1,35 @@
+// Creates the data folder of a terminal and the two databases, with the rows that an installation starts from.
+// Never writes over an installation that exists: raises 1008 before anything is touched. When it fails half-way,
+// what it had made is taken away again.
+#pragma once
+
+#include <string>
+
+#include "core/dades/Connexio.h"
+
+struct Opcions_Installacio {
+  std::string carpeta;     // data folder: Brollador.ini, dadeslocals.db, copia, Temp
+  std::string compartida;  // address of the shared database; empty: a file in the data folder
+};
+
+// The base installation: one company, the administrator without a password, and the smallest reference tables.
+void Crear_Base(const Opcions_Installacio& opcions);
+void Crear_Base(const std::string& carpeta, const std::string& compartida = {});
+
+// The first company of an office and its administrator's password.
+struct Primera_Empresa {
+  std::string nif;
+  std::string rao_social;
+  std::string contrasenya;
+};
+void Crear_Buida(const Opcions_Installacio& opcions, const Primera_Empresa& empresa);
+
+// A further terminal of an office: data folder and local database on a shared database that exists.
+void Crear_Terminal(const Opcions_Installacio& opcions);
+
+// Fills in the shared address of the options when none was given.
+std::string Adreca_Compartida(const Opcions_Installacio& opcions);
+
+// Pieces, for whoever builds on an installation that is under way.
+void Executar_Fitxer(Connexio& connexio, std::string_view text);  // statements ended by ';', comments with --
+void Carregar_Textos(Connexio& local);                            // schema/textos into TEXTS

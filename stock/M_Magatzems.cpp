@@ -1,0 +1,141 @@
+#include "stock/M_Magatzems.h"
+
+#include <initializer_list>
+
+#include "core/M_Funcions_Comuns.h"
+#include "masters/M_Articles.h"
+
+namespace {
+
+// "", "0" and "False" are false, any other number and "True" are true.
+bool Text_Cert(const std::string& text) {
+  return Nul_A_Defecte(text).Boolea();
+}
+
+void Exigir_Estoc(double unitats, bool stock_neg) {
+  if (unitats >= 0 || stock_neg) return;
+  throw Error_Brollador(errors::sense_estoc, "Actualitzar_Stock", "Operació fallida. No hi ha prou STOCK!");
+}
+
+// Runs a step of a posting again, from its start, for as long as another terminal gets in between.
+void Fer_Pas(const std::function<void()>& pas) {
+  for (;;) {
+    try {
+      return pas();
+    } catch (const Error_Brollador& error) {
+      if (error.Numero() != errors::concurrencia) throw;
+    }
+  }
+}
+
+// The steps of a posting, and what the user sees of their failure: one box, and 1010 for the caller.
+void Fer_Passos(std::initializer_list<std::function<void()>> passos, bool desfer_en_error) {
+  try {
+    for (const auto& pas : passos) Fer_Pas(pas);
+  } catch (const Error_Brollador& error) {
+    if (desfer_en_error) Desfer_Transaccio();
+    Alliberar_Entrada();
+    Mostrar_Error(error);
+    throw Error_Brollador(errors::refusat, "M_Magatzems", "Error en los Movimientos...");
+  }
+}
+
+void Moviment(const Article_Estoc& art, double delta, const char* tipus, const std::string& document) {
+  Fer_Passos({[&] { Actualitzar_Stock(art.article, art.minim, art.magatzem, delta, art.stock_neg, art.porta_stock); },
+              [&] { Afegir_Moviment(art.article, art.magatzem, delta, tipus, document, art.porta_stock); }},
+             false);
+}
+
+}  // namespace
+
+Article_Estoc Preparar_Article_Estoc(const std::string& codi) {
+  const auto dades = Dades_Article(codi);
+  const std::string& magatzem = dades[article::magatzem];
+  const bool porta_stock = Text_Cert(dades[article::porta_stock]);
+  return {.article = codi,
+          .magatzem = magatzem,
+          .minim = Text_Cert(dades[article::stock_minim]) ? -1.0 : 0.0,
+          .stock_neg = porta_stock && Stock_Negatiu_Permes(magatzem),
+          .porta_stock = porta_stock};
+}
+
+void Moviment_Albara(double signe, const Article_Estoc& article, double unitats, std::int64_t numalb) {
+  Moviment(article, -signe * unitats, "AC", std::to_string(numalb));
+}
+
+void Moviment_Factura(double signe, const Article_Estoc& article, double unitats, std::int64_t numalb) {
+  Moviment(article, -signe * unitats, "F", std::to_string(numalb));
+}
+
+void Moviment_Compra(double signe, const Article_Estoc& article, double unitats, const std::string& numalb) {
+  Moviment(article, signe * unitats, "C", numalb);
+}
+
+void Moviment_Traspas(double signe, const std::string& article, bool porta_stock, const std::string& origen,
+                      const std::string& desti, double unitats, std::int64_t numalb) {
+  const bool neg_origen = Stock_Negatiu_Permes(origen);
+  const bool neg_desti = Stock_Negatiu_Permes(desti);
+  const double delta = signe * unitats;
+  const std::string document = std::to_string(numalb);
+  if (!sessio.Transaccio_Oberta) {
+    sessio.Connexio_Comuna.BeginTrans();
+    sessio.Transaccio_Oberta = true;
+  }
+  Fer_Passos({[&] { Actualitzar_Stock(article, 0, origen, -delta, neg_origen, porta_stock); },
+              [&] { Actualitzar_Stock(article, 0, desti, delta, neg_desti, porta_stock); },
+              [&] { Afegir_Moviment(article, origen, -delta, "AM", document, porta_stock); },
+              [&] { Afegir_Moviment(article, desti, delta, "AM", document, porta_stock); }},
+             true);
+  sessio.Connexio_Comuna.CommitTrans();
+  sessio.Transaccio_Oberta = false;
+}
+
+void Actualitzar_Stock(const std::string& article, double minim, const std::string& magatzem, double delta,
+                       bool stock_neg, bool porta_stock) {
+  if (!porta_stock) return;
+  Recordset rs("SELECT * FROM STOCK WHERE EMPRESA_ST = " + Text_SQL(sessio.Empresa_Actual) +
+                   " AND CODI_ART_ST = " + Text_SQL(article) + " AND ALMACEN_ST = " + Text_SQL(magatzem),
+               sessio.Connexio_Comuna, Bloqueig::Optimista);
+  const bool existeix = rs.RecordCount() > 0;
+  const double saldo = delta + (existeix ? Nul_A_Defecte(rs["UNIDADES_ST"]).Doble() : 0);
+  Exigir_Estoc(saldo, stock_neg);
+  if (!existeix) {
+    rs.AddNew();
+    rs.Set("EMPRESA_ST", sessio.Empresa_Actual);
+    rs.Set("CODI_ART_ST", article);
+    rs.Set("ALMACEN_ST", magatzem);
+  }
+  rs.Set("UNIDADES_ST", saldo);
+  rs.Update();
+  if (minim != 0 && saldo < minim && magatzem == Magatzem_Article(article)) {
+    Alliberar_Entrada();
+    sessio.pantalla->Caixa(article + ": Article sota mínims.", estil::critic);
+  }
+  if (saldo == 0) rs.Delete();
+}
+
+void Afegir_Moviment(const std::string& article, const std::string& magatzem, double unitats, const std::string& tipus,
+                     const std::string& document, bool porta_stock) {
+  if (!porta_stock) return;
+  const Data_Hora data = Data_Hora_Servidor();
+  // The journal is only ever added to: the statement is there for a set with its columns.
+  Recordset rs("SELECT * FROM MOVIMIENTOS WHERE EMPRESA_MOV = " + Text_SQL(sessio.Empresa_Actual) +
+                   " AND ARTICULO_MOV = " + Text_SQL(article) + " AND FECHA_MOV = " + Data_SQL(data) +
+                   " AND TIPO_MOV = " + Text_SQL(tipus) + " AND ALMACEN_MOV = " + Text_SQL(magatzem) +
+                   " AND DOCUMENTO_MOV = " + Text_SQL(document),
+               sessio.Connexio_Comuna, Bloqueig::Optimista);
+  rs.AddNew();
+  rs.Set("EMPRESA_MOV", sessio.Empresa_Actual);
+  rs.Set("ARTICULO_MOV", article);
+  rs.Set("FECHA_MOV", data);
+  rs.Set("TIPO_MOV", tipus);
+  rs.Set("ALMACEN_MOV", magatzem);
+  rs.Set("DOCUMENTO_MOV", document);
+  rs.Set("UNIDADES_MOV", unitats);
+  rs.Update();
+}
+
+bool Stock_Negatiu_Permes(const std::string& magatzem) {
+  const Recordset rs("SELECT * FROM ALMACENES WHERE CODI_ALM = " + Text_SQL(magatzem), sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 && Nul_A_Defecte(rs["STOCK_NEG_ALM"]).Boolea();
+}
