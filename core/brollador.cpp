@@ -1,0 +1,5 @@
+#include "core/pantalla/Aplicacio.h"
+
+int main(int argc, char** argv) {
+  return Executar_Brollador(argc, argv);
+}

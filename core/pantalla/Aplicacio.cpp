@@ -1,0 +1,82 @@
+#include "core/pantalla/Aplicacio.h"
+
+#include <QMdiSubWindow>
+
+#include "core/F_Principal.h"
+#include "core/F_Subinici.h"
+#include "core/M_Funcions_Comuns.h"
+#include "core/M_Inici.h"
+#include "core/M_Usuaris.h"
+#include "core/pantalla/Aparenca.h"
+#include "core/pantalla/Control_Interface.h"
+#include "core/pantalla/Formulari.h"
+#include "core/pantalla/Instancia_Unica.h"
+#include "core/pantalla/Pantalla_Qt.h"
+#include "sales/F_Vendes.h"
+
+namespace {
+
+void Registrar_Formularis() {
+  Registrar_Formulari(QStringLiteral("F_SUBINICI"), [] { return new F_Subinici; });
+  Registrar_Formularis_Venda();
+}
+
+void Mostrar_Finestres() {
+  auto* principal = new F_Principal;
+  principal->setWindowTitle(QStringLiteral("Brollador 1.27.05"));
+  principal->show();
+  Habilitar_Menus(false);
+  Mostrar_Formulari(QStringLiteral("F_SUBINICI"));
+  Traduir_Formulari(QStringLiteral("F_PRINCIPAL"));
+  Traduir_Formulari(QStringLiteral("F_SUBINICI"));
+}
+
+}  // namespace
+
+Aplicacio::Aplicacio(int& argc, char** argv) : QApplication(argc, argv) {
+  setApplicationName(QStringLiteral("Brollador"));
+  setDesktopFileName(QStringLiteral("brollador"));
+  Vestir(*this);
+}
+
+bool Aplicacio::notify(QObject* receptor, QEvent* event) {
+  try {
+    return QApplication::notify(receptor, event);
+  } catch (...) {
+    Formulari::Guardar_Event([error = std::current_exception()] { std::rethrow_exception(error); });
+    return true;
+  }
+}
+
+bool Inici_Aplicacio() {
+  static Pantalla_Qt pantalla;
+  sessio.pantalla = &pantalla;
+  Registrar_Formularis();
+  Punter_Ocupat();
+  try {
+    Preparar_Inici();
+    Mostrar_Finestres();
+    Punter_Normal();
+    return true;
+  } catch (const Error_Brollador& error) {
+    Punter_Normal();
+    pantalla.Caixa(Text_Inici_Fallit(error), estil::simple);
+    return false;
+  }
+}
+
+void Acabar_Aplicacio() {
+  for (const auto* formulari : Formularis_Carregats()) Descarregar_Formulari(formulari->Nom());
+  Tancar_Connexions();
+  QCoreApplication::quit();
+}
+
+int Executar_Brollador(int argc, char** argv) {
+  Aplicacio aplicacio(argc, argv);
+  Fixar_Directoris();
+  Instancia_Unica instancia(QString::fromStdString(sessio.Dir_Dades));
+  if (!instancia.Es_La_Primera()) return 0;
+  if (!Inici_Aplicacio()) return 1;
+  QObject::connect(&instancia, &Instancia_Unica::Cridada, F_Principal::Unica(), &F_Principal::Portar_Al_Davant_Del_Tot);
+  return Aplicacio::exec();
+}

@@ -1,0 +1,20 @@
+// The program from its first line to its event loop, for the office's desktop and for the scripts that test it alike.
+#pragma once
+
+#include <QApplication>
+
+// Nothing that escapes an event ends the program: it ends in the system's box.
+class Aplicacio : public QApplication {
+ public:
+  Aplicacio(int& argc, char** argv);
+  bool notify(QObject* receptor, QEvent* event) override;
+};
+
+// Steps of the start up to the login form. False when it failed: the user has been told, and the process ends.
+bool Inici_Aplicacio();
+
+// Closes all forms, recordsets and connections and ends the process.
+void Acabar_Aplicacio();
+
+// The whole program: one process per terminal, a second start brings the running one to the front.
+int Executar_Brollador(int argc, char** argv);

@@ -1,0 +1,71 @@
+#include "core/pantalla/Camps.h"
+
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTimer>
+
+namespace {
+
+bool retencio_pendent = false;
+
+bool Canvia_De_Finestra(Qt::FocusReason motiu) {
+  return motiu == Qt::ActiveWindowFocusReason || motiu == Qt::PopupFocusReason || motiu == Qt::MenuBarFocusReason;
+}
+
+// Tells of one kind of focus event of a widget.
+class Vigia_De_Focus : public QObject {
+ public:
+  Vigia_De_Focus(QWidget* camp, QEvent::Type tipus, std::function<void()> rutina)
+      : QObject(camp), tipus_(tipus), rutina_(std::move(rutina)) {
+    camp->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* objecte, QEvent* event) override {
+    if (event->type() == tipus_ && !retencio_pendent) {
+      const bool fora = Canvia_De_Finestra(static_cast<QFocusEvent*>(event)->reason());
+      const QPointer<QObject> viu(objecte);
+      if (!fora) rutina_();
+      if (!viu) return true;
+    }
+    return QObject::eventFilter(objecte, event);
+  }
+
+ private:
+  QEvent::Type tipus_;
+  std::function<void()> rutina_;
+};
+
+}  // namespace
+
+void En_Sortir(QWidget* camp, std::function<void()> rutina) {
+  new Vigia_De_Focus(camp, QEvent::FocusOut, std::move(rutina));
+}
+
+void En_Entrar(QWidget* camp, std::function<void()> rutina) {
+  new Vigia_De_Focus(camp, QEvent::FocusIn, std::move(rutina));
+}
+
+void Posar_Focus(QWidget* camp) {
+  camp->setFocus(Qt::OtherFocusReason);
+  if (auto* text = qobject_cast<QLineEdit*>(camp)) text->selectAll();
+  if (auto* combo = qobject_cast<QComboBox*>(camp); combo != nullptr && combo->isEditable())
+    combo->lineEdit()->selectAll();
+}
+
+void Retenir_Focus(QWidget* camp) {
+  retencio_pendent = true;
+  const QPointer<QWidget> viu(camp);
+  QTimer::singleShot(0, camp, [viu] {
+    if (viu) Posar_Focus(viu);
+    retencio_pendent = false;
+  });
+  // The timer goes with a field that is deleted before it fires.
+  QObject::connect(camp, &QObject::destroyed, [] { retencio_pendent = false; });
+}
+
+bool Focus_Retingut() {
+  return retencio_pendent;
+}

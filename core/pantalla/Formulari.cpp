@@ -1,0 +1,73 @@
+#include "core/pantalla/Formulari.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "core/M_Funcions_Comuns.h"
+#include "core/pantalla/Control_Interface.h"
+#include "core/pantalla/Graella.h"
+
+namespace {
+
+// Errors of the library count as the system's general failure.
+Error_Brollador Com_A_Error(const std::exception& error) {
+  if (const auto* propi = dynamic_cast<const Error_Brollador*>(&error)) return *propi;
+  return {errors::general, "Brollador", error.what()};
+}
+
+// The busy pointer while it lives.
+class Punter {
+ public:
+  Punter() { Punter_Ocupat(); }
+  ~Punter() { Punter_Normal(); }
+  Punter(const Punter&) = delete;
+  Punter& operator=(const Punter&) = delete;
+};
+
+}  // namespace
+
+Formulari::Formulari(const QString& nom) {
+  setObjectName(nom);
+  setAttribute(Qt::WA_DeleteOnClose);
+  setFocusPolicy(Qt::ClickFocus);
+}
+
+void Formulari::Guardar_Event(const std::function<void()>& rutina, const std::function<void()>& despres_d_un_error) {
+  const Punter punter;
+  sessio.Error_Mostrat = false;
+  try {
+    rutina();
+  } catch (const std::exception& error) {
+    const Error_Brollador propi = Com_A_Error(error);
+    Desfer_Transaccio();
+    Alliberar_Entrada();
+    try {
+      if (despres_d_un_error) despres_d_un_error();
+    } catch (const std::exception& segon) {
+      // The failure that began it is the one to tell; this one is told when there was nothing else.
+      qWarning("%s", segon.what());
+    }
+    Mostrar_Error(propi);
+  }
+}
+
+void Formulari::closeEvent(QCloseEvent* event) {
+  event->accept();
+  if (descarregat_) return;
+  descarregat_ = true;
+  for (const auto* graella : findChildren<Graella*>()) graella->Desar_Amplades();
+  Guardar_Event([this] { Descarregar(); });
+  Guardar_Event([this] { Tancar_Formulari(Nom()); });
+}
+
+void Formulari::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QWidget::keyPressEvent(event);
+  QWidget* camp = focusWidget();
+  auto* boto = qobject_cast<QAbstractButton*>(camp);
+  if (boto != nullptr && !boto->isCheckable()) return boto->click();
+  focusNextPrevChild(true);
+  if (auto* text = qobject_cast<QLineEdit*>(focusWidget())) text->selectAll();
+}

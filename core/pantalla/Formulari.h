@@ -1,0 +1,51 @@
+// The base of every form: a child of the main window that exists at most once, known by its name.
+//
+// A form overrides what it needs of its life: Carregar (recordsets, grids), Activar (it came to the front), Descarregar
+// (it goes). The services around it (Control_Interface.h) translate it, disable its parents and give it its rights.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "core/Sessio.h"
+
+class Graella;
+
+class Formulari : public QWidget {
+  Q_OBJECT
+ public:
+  explicit Formulari(const QString& nom);  // becomes the object name: F_Albara
+  QString Nom() const { return objectName(); }
+
+  virtual void Carregar() {}       // once, before it is shown
+  virtual void Activar() {}        // each time it comes to the front
+  virtual void Descarregar() {}    // when it is closed; an error is shown and it closes all the same
+  virtual void Aplicar_Drets() {}  // controls by the rights of the session
+
+  // The recordset of a list, which editors requery and F_Cerca filters; null when the form has none.
+  virtual Recordset* Recordset_Llista() { return nullptr; }
+  // The grid that shows it.
+  virtual Graella* Graella_Llista() { return nullptr; }
+  // The document behind a document editor, for the rules.
+  virtual Document_Obert* Document() { return nullptr; }
+
+  // Runs an event routine under the system's guard: busy pointer around it, and an error of any kind ends in the
+  // system's box (once: Error_Mostrat) with the open transaction rolled back, the input released and
+  // `despres_d_un_error` run.
+  static void Guardar_Event(const std::function<void()>& rutina, const std::function<void()>& despres_d_un_error = {});
+
+ protected:
+  // A control of the .ui file by its name; a missing one is a programming error that stops at once.
+  template <class Control>
+  Control* Control_De_Nom(const QString& nom) const {
+    auto* control = findChild<Control*>(nom);
+    if (control == nullptr) qFatal("%s: no %s", qUtf8Printable(Nom()), qUtf8Printable(nom));
+    return control;
+  }
+
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;  // Enter goes to the next field
+
+ private:
+  bool descarregat_ = false;
+};

@@ -1,0 +1,33 @@
+// A list: a grid over the recordset of a statement. What a list adds is its statement, its columns, its styles and what
+// its buttons and a double click do.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/pantalla/Formulari.h"
+#include "core/pantalla/Graella.h"
+
+class Llista : public Formulari {
+  Q_OBJECT
+ public:
+  using Formulari::Formulari;
+  void Carregar() override;
+  void Descarregar() override;
+  Recordset* Recordset_Llista() override { return &rs_; }
+  Graella* Graella_Llista() override { return graella_; }
+
+ protected:
+  virtual std::string Sentencia() const = 0;
+  virtual void Obrir_Fila() {}  // double click or Enter on the current row
+
+  // Tells the grid of the .ui file and its columns; before Carregar.
+  void Muntar(Graella* graella, const std::vector<Columna_Graella>& columnes);
+  // The rows as they stand now, back on the row where the list was.
+  void Requerir();
+
+  Recordset rs_;
+
+ private:
+  Graella* graella_ = nullptr;
+};

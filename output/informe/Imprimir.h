@@ -1,0 +1,25 @@
+// Prints a document: through the print dialog, or as a PDF file.
+#pragma once
+
+#include <QString>
+
+#include "sales/Documents.h"
+
+namespace impressio {
+constexpr int dialeg = 0;
+constexpr int pdf = -1;
+}  // namespace impressio
+
+// Fills the report of the kind from the document and sends it where `mode` says. sessio.Crida_Document tells whether
+// prices are printed (";VALORAT", ";NO_VALORAT"). A document without lines prints nothing, in silence. Raises when the
+// foot has more rows than the page. Reads the document's tables, EMPRESES, CLIENTS; fills and empties its local work
+// table.
+void Imprimir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode);
+
+// Where a document goes as PDF: A-12.pdf in the folder of temporary files.
+QString Fitxer_PDF(const Tipus_Document& tipus, const Valor& numero);
+
+// For scripts: print jobs go to files of this folder instead of the dialog. Empty: back to the user.
+void Fixar_Carpeta_Treballs(const QString& carpeta);
+int Treballs_Impresos();
+QString Darrer_Treball();  // file of the last job; empty: none

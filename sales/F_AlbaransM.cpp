@@ -1,0 +1,61 @@
+#include "sales/F_AlbaransM.h"
+
+#include "core/pantalla/Aparenca.h"
+#include "core/pantalla/Control_Interface.h"
+#include "sales/F_AlbaransS.h"
+#include "sales/M_Albarans.h"
+#include "sales/M_Consultes.h"
+#include "ui_F_AlbaransM.h"
+
+namespace {
+
+const std::vector<Columna_Graella> columnes = {
+    {"NUMALB_AC", 1200, "Albarà", true},
+    {"DATA_AC", 1500, "Data"},
+    {"CLIENT_DESC_AC", 4800, "Client"},
+    {"OBSR_AC", 3600, "Observacions"},
+    {"IMPORT_AC", 1700, "Import", true, "#,##0.00"},
+    {"ESTAT_AC", 750, "OK?", false, "", true},
+};
+
+// The criteria of the search form; one that is not open is there all the same, as it comes.
+F_AlbaransS* Cerca() {
+  return static_cast<F_AlbaransS*>(Carregar_Amagat(QStringLiteral("F_ALBARANSS")));
+}
+
+}  // namespace
+
+F_AlbaransM::F_AlbaransM()
+    : Llista_Documents(QStringLiteral("F_AlbaransM"), tipus_albara), ui_(std::make_unique<Ui::F_AlbaransM>()) {
+  ui_->setupUi(this);
+  Muntar(ui_->G_AlbM, columnes);
+  Muntar_Botons(ui_->B_NouAlbara, ui_->B_EsborrarAlbara, ui_->B_Exit);
+  Dibuixar(ui_->B_FACT, Dibuix::Calcular);
+  ui_->G_AlbM->Estil_De_Fila([this](std::int64_t fila) {
+    const Valor estat = rs_.Valor_De_Fila(fila, rs_.Index_Camp("ESTAT_AC"));
+    return !estat.Es_Nul() && estat.Boolea() ? QStringLiteral("OK") : QString();
+  });
+}
+
+F_AlbaransM::~F_AlbaransM() = default;
+
+// Invoicing asks for both rights and for the notes of one customer.
+void F_AlbaransM::Aplicar_Drets() {
+  Llista_Documents::Aplicar_Drets();
+  const bool factura = Dret() == "M" && sessio.P_Factures == "M" && !Cerca()->Criteris().client.empty();
+  ui_->B_FACT->setEnabled(factura && Hi_Ha_Fabrica(QStringLiteral("F_FACTURAR")));
+}
+
+std::string F_AlbaransM::Sentencia() const {
+  return Consulta_Albarans(Cerca()->Criteris(), false) + " ORDER BY NUMALB_AC";
+}
+
+Valor F_AlbaransM::Crear_Document() {
+  return Crear_Capcalera_Albara();
+}
+void F_AlbaransM::Esborrar(const Valor& numero) {
+  Esborrar_Albara(numero.Enter(), sessio.Empresa_Actual);
+}
+void F_AlbaransM::Passar_Numero(const Valor& numero) {
+  sessio.Numero_Albara = numero.Enter();
+}

@@ -1,0 +1,4 @@
+// The screens of sales, by name.
+#pragma once
+
+void Registrar_Formularis_Venda();
