@@ -27,6 +27,20 @@ std::string SQL_Linies_A_Imprimir(const Tipus_Document& tipus, const Valor& nume
          columna("LIN");
 }
 
+void Copiar_Linies(const Tipus_Document& tipus, Recordset& linies) {
+  const auto columna = [&](const char* paper) { return tipus.lin.Columna(paper); };
+  Recordset impr("SELECT * FROM " + Taula_Impressio(tipus), Connexio_Impressio(), Bloqueig::Optimista);
+  for (; !linies.Eof(); linies.MoveNext()) {
+    impr.AddNew();
+    for (const char* paper : {"LIN", "ARTICLE", "UNITATS", "PREU_UNITARI", "DTE"}) {
+      impr.Set(columna(paper), linies[columna(paper)]);
+    }
+    impr.Set(columna("TOTAL_IMPORT"), linies[columna("IMPORT_NET")]);
+    impr.Set(columna("DESCRIPCIO"), En_Una_Linia(linies[columna("DESCRIPCIO")].Text()));
+    impr.Update();
+  }
+}
+
 std::string Import_Impres(const Valor& valor) {
   return Format_Numero(Nul_A_Defecte(valor).Doble(), "#,##0.00");
 }
@@ -45,16 +59,14 @@ void Omplir_Taula_Impressio(const Tipus_Document& tipus, const Valor& numero, co
   Buidar_Taula_Impressio(tipus);
   Recordset linies(SQL_Linies_A_Imprimir(tipus, numero, empresa), sessio.Connexio_Comuna);
   if (linies.RecordCount() == 0) return;
-  const auto columna = [&](const char* paper) { return tipus.lin.Columna(paper); };
-  Recordset impr("SELECT * FROM " + Taula_Impressio(tipus), Connexio_Impressio(), Bloqueig::Optimista);
-  for (; !linies.Eof(); linies.MoveNext()) {
-    impr.AddNew();
-    for (const char* paper : {"LIN", "ARTICLE", "UNITATS", "PREU_UNITARI", "DTE"}) {
-      impr.Set(columna(paper), linies[columna(paper)]);
-    }
-    impr.Set(columna("TOTAL_IMPORT"), linies[columna("IMPORT_NET")]);
-    impr.Set(columna("DESCRIPCIO"), En_Una_Linia(linies[columna("DESCRIPCIO")].Text()));
-    impr.Update();
+  // One write to the disk for all the lines.
+  Connexio_Impressio().BeginTrans();
+  try {
+    Copiar_Linies(tipus, linies);
+    Connexio_Impressio().CommitTrans();
+  } catch (...) {
+    Connexio_Impressio().RollbackTrans();
+    throw;
   }
 }
 
@@ -80,8 +92,8 @@ Peu_Impres Dades_Peu(const Tipus_Document& tipus, const Valor& numero, const std
   Peu_Impres peu;
   for (Recordset rs(SQL_Peu(tipus, numero, empresa), sessio.Connexio_Comuna); !rs.Eof(); rs.MoveNext()) {
     const auto import = [&](const char* paper) { return Import_Impres(rs[tipus.peu.Columna(paper)]); };
-    peu.files.push_back({import("BASE"), import("PORC_IVA"), import("IVA"), import("PORC_RE"), import("RE"),
-                         import("IMPORT")});
+    peu.files.push_back(
+        {import("BASE"), import("PORC_IVA"), import("IVA"), import("PORC_RE"), import("RE"), import("IMPORT")});
     peu.total += Nul_A_Defecte(rs[tipus.peu.Columna("IMPORT")]).Doble();
   }
   return peu;

@@ -394,7 +394,7 @@ class Traductor {
 
   // The key of the table that is to be written, behind the other columns.
   std::string Clau_Oculta(const Parts& p) {
-    if (editable_.empty() || !p.grup.Buit()) return {};
+    if (editable_.empty() || !p.grup.Buit() || Seguent_Derivada(p.de) != p.de.ultim) return {};
     const auto taules = Taules_De(p.de);
     if (editable_ == "*" && (taules.size() != 1 || p.distint)) return {};
     for (const auto& [nom, alies] : taules) {

@@ -77,6 +77,8 @@ Base Obrir_Base(const std::string& cami, int mode) {
   }
   sqlite3_extended_result_codes(base.get(), 1);
   sqlite3_busy_timeout(base.get(), espera_ocupat);
+  // A name between double quotes is a name: one that is no column is an error, not a text.
+  sqlite3_db_config(base.get(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   Registrar_Funcions_SQLite(base.get());
   return base;
 }

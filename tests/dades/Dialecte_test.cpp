@@ -131,6 +131,18 @@ TEST_F(Dialecte, Names_of_columns_are_found_in_any_case_accents_and_cedilla_incl
   EXPECT_EQ(rs["rao_social_CLI"], Valor("A"));
 }
 
+TEST_F(Dialecte, A_column_of_another_table_is_an_error_and_no_text) {
+  EXPECT_EQ(Numero_Error([&] { Un_Valor("SELECT NIF_CLI FROM CAP"); }), errors::sentencia);
+  EXPECT_EQ(Numero_Error([&] { Un_Valor("SELECT NIF_CLI"); }), errors::sentencia);
+}
+
+TEST_F(Dialecte, A_set_over_a_derived_table_is_read_only) {
+  Document(1, {});
+  Recordset rs("SELECT MAX(NUM_C) AS M FROM (SELECT NUM_C FROM CAP)", connexio, Bloqueig::Optimista);
+  EXPECT_EQ(rs["M"], Valor(1));
+  EXPECT_EQ(Numero_Error([&] { rs.Set("M", 2); }), errors::general);
+}
+
 TEST_F(Dialecte, A_derived_table_needs_no_name) {
   Document(1, {});
   EXPECT_EQ(Un_Valor("SELECT MAX(NUM_C) FROM (SELECT NUM_C FROM CAP)"), Valor(1));

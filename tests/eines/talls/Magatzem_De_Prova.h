@@ -1,0 +1,49 @@
+// The little company that the kill test works in: articles with stock, two orders to serve, some delivery notes.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/Sessio.h"
+
+namespace talls {
+
+constexpr const char* empresa = "B00000000";
+constexpr int notes = 6;              // delivery notes, from 1
+constexpr int comandes = 2;           // orders, from 1; a line of each article
+constexpr double estoc_inicial = 40;  // units of each article that keeps stock
+
+struct Article_Prova {
+  const char* codi;
+  const char* iva;
+  double preu;
+  bool porta_stock;
+};
+const std::vector<Article_Prova>& Articles();
+
+// On a base installation in `carpeta`.
+void Crear_Magatzem(const std::string& carpeta);
+
+// Answers every question with OK and keeps what errors it was shown.
+class Pantalla_Muda : public Pantalla {
+ public:
+  using Pantalla::Caixa;
+  Resposta Caixa(const std::string& text, int estil, const std::string& titol) override;
+  bool Formulari_Carregat(std::string_view) const override { return false; }
+  Document_Obert* Document(std::string_view) override { return nullptr; }
+  void Processar_Events() override {}
+  void Bloquejar_Entrada() override {}
+  void Alliberar_Entrada() override {}
+  std::string Triar_Empresa(const std::string&, int) override { return {}; }
+  void Menu_Habilitat(std::string_view, bool) override {}
+  void Menu_Visible(std::string_view, bool) override {}
+  void Menu_Marcat(std::string_view, bool) override {}
+  void Menu_Text(std::string_view, const std::string&) override {}
+
+  std::vector<std::string> caixes;
+};
+
+// The session of a user at work on the installation, as after a login.
+void Obrir_Sessio(const std::string& carpeta, Pantalla& pantalla);
+
+}  // namespace talls

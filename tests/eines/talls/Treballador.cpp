@@ -1,0 +1,108 @@
+#include "tests/eines/talls/Treballador.h"
+
+#include <cstdio>
+#include <random>
+
+#include "core/M_Funcions_Comuns.h"
+#include "sales/M_Albarans.h"
+#include "sales/M_Peu.h"
+#include "tests/eines/talls/Magatzem_De_Prova.h"
+
+namespace talls {
+
+namespace {
+
+// The open form as the rules see it: the notes with an even number carry RE.
+class Formulari_Mut : public Document_Obert {
+ public:
+  explicit Formulari_Mut(bool re) : re_(re) {}
+  bool Re_Marcat() const override { return re_; }
+  void Posar_Import(double) override {}
+  void Posar_Estat(bool) override {}
+  void Posar_Pagament(bool) override {}
+  void Desar_Capcalera() override {}
+  void Refrescar_Peu() override {}
+
+ private:
+  bool re_;
+};
+
+class Treballador {
+ public:
+  explicit Treballador(std::uint32_t llavor) : atzar_(llavor) {}
+
+  void Un_Pas() {
+    const std::int64_t nota = Qualsevol(1, notes);
+    const std::int64_t linies = Comptar_Linies_Albara(nota, empresa);
+    if (linies > 0 && (linies > 8 || Qualsevol(0, 2) == 0)) {
+      Esborrar(nota);
+    } else {
+      Afegir(nota);
+    }
+  }
+
+ private:
+  int Qualsevol(int des_de, int fins_a) { return std::uniform_int_distribution(des_de, fins_a)(atzar_); }
+
+  Linia_Entrada Linia() {
+    const int quin = Qualsevol(0, static_cast<int>(Articles().size()) - 1);
+    const Article_Prova& article = Articles()[static_cast<std::size_t>(quin)];
+    Linia_Entrada linia;
+    linia.article = article.codi;
+    linia.descripcio = "Article de prova";
+    linia.iva_article = article.iva;
+    linia.cost = 1;
+    linia.unitats = Qualsevol(1, 12) / 2.0;
+    linia.preu_unitari = article.preu;
+    if (Qualsevol(0, 1) == 0) return linia;
+    linia.comanda = Qualsevol(1, comandes);
+    linia.comanda_lin = static_cast<std::int16_t>(quin + 1);
+    return linia;
+  }
+
+  // A shortage of stock is part of the work: the line is refused and nothing of it may stay.
+  void Afegir(std::int64_t nota) {
+    sessio.Error_Mostrat = false;
+    Formulari_Mut formulari(nota % 2 == 0);
+    const Capcalera_Oberta cap{nota, empresa, true, nota % 2 == 0};
+    try {
+      Transaccio transaccio;
+      Recordset linies(SQL_Linies(tipus_albara, nota, empresa), sessio.Connexio_Comuna, Bloqueig::Optimista);
+      Afegir_Linia_Albara(cap, Linia(), linies, formulari);
+      transaccio.Confirmar();
+    } catch (const Error_Brollador& error) {
+      if (error.Numero() != errors::refusat) throw;
+    }
+  }
+
+  void Esborrar(std::int64_t nota) {
+    Formulari_Mut formulari(nota % 2 == 0);
+    Transaccio transaccio;
+    Recordset linies(SQL_Linies(tipus_albara, nota, empresa), sessio.Connexio_Comuna);
+    linies.Move(Qualsevol(0, static_cast<int>(linies.RecordCount()) - 1));
+    Esborrar_Linia_Albara(nota, empresa, static_cast<std::int16_t>(linies["LIN_AL"].Enter()),
+                          linies["ARTICLE_AL"].Text(), linies["UNITATS_AL"].Doble());
+    Buidar_Peu(tipus_albara, nota, empresa);
+    Calcular_Peu(tipus_albara, nota, empresa, formulari);
+    transaccio.Confirmar();
+  }
+
+  std::mt19937 atzar_;
+};
+
+}  // namespace
+
+std::string Treballar_Sense_Fi(const std::string& carpeta, std::uint32_t llavor) {
+  try {
+    Pantalla_Muda pantalla;
+    Obrir_Sessio(carpeta, pantalla);
+    Treballador treballador(llavor);
+    std::puts("begun");
+    std::fflush(stdout);
+    for (;;) treballador.Un_Pas();
+  } catch (const Error_Brollador& error) {
+    return std::to_string(error.Numero()) + " - " + error.Descripcio();
+  }
+}
+
+}  // namespace talls
