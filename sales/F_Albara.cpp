@@ -17,8 +17,8 @@ const Descripcio_Editor descripcio{
             {"NUMALB_AL", 0, ""},
             {"EMPRESA_AL", 0, ""},
             {"LIN_AL", 700, "Línia", true},
-            {"ARTICLE_AL", 1500, "Article"},
-            {"DESCRIPCIO_AL", 4300, "Descripció"},
+            {"ARTICLE_AL", 1400, "Article"},
+            {"DESCRIPCIO_AL", 3600, "Descripció"},
             {"PREU_UNITARI_AL", 1300, "Preu Unitari", true, imports},
             {"UNITATS_AL", 1050, "Unitats", true, imports},
             {"PORC_IVA_AL", 850, "IVA %", true, imports},
@@ -31,7 +31,7 @@ const Descripcio_Editor descripcio{
             {"MARGE_AL", 1150, "Marge (€)", true, imports},
             {"IMPORT_BRUT_AL", 1350, "Import Brut", true, imports},
             {"COMANDA_AL", 1050, "Comanda", true},
-            {"COMANDA_LIN_AL", 1050, "Línia Com.", true},
+            {"COMANDA_LIN_AL", 1000, "Línia Com.", true},
         },
     .columnes_peu =
         {

@@ -45,6 +45,10 @@ void Cerca_Document::Carregar() {
   Netejar();
 }
 
+void Cerca_Document::Activar() {
+  Posar_Focus(numero_entre_);
+}
+
 void Cerca_Document::Netejar() {
   const Criteris_Cerca criteris = Criteris_Per_Defecte();
   numero_entre_->setText(QString::fromStdString(criteris.numero_entre));

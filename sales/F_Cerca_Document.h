@@ -16,6 +16,7 @@ class Cerca_Document : public Formulari {
  public:
   using Formulari::Formulari;
   void Carregar() override;
+  void Activar() override;
   Criteris_Cerca Criteris() const;
 
  protected:

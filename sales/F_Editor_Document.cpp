@@ -141,6 +141,7 @@ void Editor_Document::Mostrar_Capcalera() {
   const auto valor = [&](const char* paper) { return cap_[taula.Columna(paper)]; };
   Del_Cap<QLineEdit>("TXT_EMPRESA")->setText(Text_De(valor("EMPRESA")));
   Del_Cap<QLineEdit>("TXT_EMP_DESC")->setText(Text_De(valor("EMP_DESC")));
+  Del_Cap<QLineEdit>("TXT_EMP_DESC")->setCursorPosition(0);
   camp_numero_->setText(Text_De(valor("NUMALB")));
   data_->Data(valor("DATA").Es_Nul() ? std::nullopt : std::optional(valor("DATA").Data()));
   client_->setText(Text_De(valor("CLIENT")));

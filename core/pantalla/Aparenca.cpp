@@ -103,6 +103,28 @@ void Vestir(QApplication& aplicacio) {
   }
   paleta.setColor(QPalette::Disabled, QPalette::Base, QColor(0xF2, 0xF4, 0xF6));
   aplicacio.setPalette(paleta);
+  // What cannot be typed into looks it.
+  aplicacio.setStyleSheet(QStringLiteral("QLineEdit[readOnly=\"true\"] { background: #EAEEF2; }"));
+  aplicacio.setWindowIcon(Icona_Programa());
+}
+
+// A spring: three jets of water over a basin.
+QIcon Icona_Programa() {
+  constexpr int costat = 64;
+  QPixmap quadre(costat, costat);
+  quadre.fill(Qt::transparent);
+  QPainter pintor(&quadre);
+  pintor.setRenderHint(QPainter::Antialiasing);
+  pintor.setPen(Qt::NoPen);
+  pintor.setBrush(QColor(0x2F, 0x6F, 0xA8));
+  pintor.drawRoundedRect(0, 0, costat, costat, 12, 12);
+  pintor.setBrush(Qt::NoBrush);
+  pintor.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::RoundCap));
+  pintor.drawLine(32, 12, 32, 40);
+  pintor.drawArc(14, 16, 18, 30, 0, 180 * 16);
+  pintor.drawArc(32, 16, 18, 30, 0, 180 * 16);
+  pintor.drawLine(12, 52, 52, 52);
+  return quadre;
 }
 
 QVariant Fons_Estil(const QString& estil) {

@@ -17,4 +17,5 @@ QVariant Lletra_Estil(const QString& estil);
 // Pictures of the buttons that stand on many forms, by what they do.
 enum class Dibuix { Nou, Esborrar, Sortir, Imprimir, Amunt, Avall, Cercar, Netejar, Calcular, Pagar, Correu, Llista };
 QIcon Icona(Dibuix dibuix);
+QIcon Icona_Programa();
 void Dibuixar(QPushButton* boto, Dibuix dibuix);

@@ -71,7 +71,6 @@ void Collocar(Formulari* formulari) {
   QMdiArea* area = F_Principal::Unica()->Area();
   QMdiSubWindow* finestra = area->addSubWindow(formulari);
   finestra->setAttribute(Qt::WA_DeleteOnClose);
-  finestra->setWindowIcon(QIcon());
   const QSize vora = finestra->sizeHint() - formulari->sizeHint();
   finestra->resize((formulari->sizeHint() + vora).boundedTo(area->viewport()->size()));
   Centrar(finestra, area);
@@ -166,6 +165,7 @@ void Tancar_Formulari(const QString& nom) {
     if (carregat == nullptr) continue;
     if (requerir) Requerir(carregat);
     Habilitar(carregat, true);
+    if (Graella* graella = carregat->Graella_Llista()) graella->setFocus();
     if (seguent == nullptr) seguent = Subfinestra(carregat);
   }
   if (majuscules != u"F_CERCA") Descarregar_Formulari(QStringLiteral("F_CERCA"));
