@@ -32,7 +32,8 @@ void F_Subinici::Activar() {
 }
 
 void F_Subinici::Iniciar() {
-  if (!Iniciar_Sessio(ui_->T_USUARI->text().toStdString(), ui_->T_CONSTRASENYA->text().toStdString())) return Rebutjar();
+  if (!Iniciar_Sessio(ui_->T_USUARI->text().toStdString(), ui_->T_CONSTRASENYA->text().toStdString()))
+    return Rebutjar();
   Descarregar_Formulari(Nom());
   Obrir_Sessio();
 }

@@ -84,7 +84,7 @@ Combo_Codi::Combo_Codi(QWidget* pare) : QComboBox(pare) {
   completer()->setFilterMode(Qt::MatchContains);
   completer()->setCaseSensitivity(Qt::CaseInsensitive);
   connect(this, &QComboBox::activated, this, &Combo_Codi::Escollir);
-  En_Sortir(lineEdit(), [this] { Deixar(); });
+  En_Sortir(this, [this] { Deixar(); });
 }
 
 void Combo_Codi::Omplir(const std::string& sentencia, Connexio& connexio, const char* camp_codi, const char* camp_nom) {

@@ -12,7 +12,9 @@
 #include "core/dades/Recordset.h"
 
 // How a failing test shows a value.
-inline void PrintTo(const Valor& valor, std::ostream* sortida) { *sortida << (valor.Es_Nul() ? "null" : valor.Text()); }
+inline void PrintTo(const Valor& valor, std::ostream* sortida) {
+  *sortida << (valor.Es_Nul() ? "null" : valor.Text());
+}
 
 // The number of the error that a piece of work raises; 0 when it ends well.
 template <class Feina>

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int paciencia = 500;  // ms that a screen may take to give the focus to a window
+
 struct Tecla {
   const char* nom;
   Qt::Key tecla;
@@ -132,5 +134,7 @@ void Activa_Alguna_Finestra() {
   if (finestra == nullptr) finestra = &Finestra_Principal();
   if (!finestra->isVisible()) return;
   finestra->activateWindow();
+  // Where other programs share the screen the focus may never come: the window counts as active all the same.
+  if (!QTest::qWaitForWindowActive(finestra, paciencia)) QApplication::setActiveWindow(finestra);
   Calmar();
 }

@@ -19,5 +19,5 @@ void Clica(QWidget& control, const QPoint& on, Qt::KeyboardModifiers amb = Qt::N
 void Clica_Al_Mig(QWidget& control);
 void Clica_Dos_Cops(QWidget& control, const QPoint& on);
 
-// Without a window manager nobody gives the focus back when a window goes.
+// Nobody but a window manager gives the focus back when a window goes.
 void Activa_Alguna_Finestra();

@@ -1,0 +1,151 @@
+#include "core/pantalla/Controls.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "core/pantalla/Camps.h"
+#include "tests/pantalles/Base_Pantalles.h"
+
+namespace {
+
+// Two fields in a window, so that one can be left for the other.
+class Finestra_De_Camps {
+ public:
+  explicit Finestra_De_Camps(QWidget* camp) : camp_(camp) {
+    auto* columna = new QVBoxLayout(&finestra_);
+    columna->addWidget(camp_);
+    columna->addWidget(&altre_);
+    finestra_.show();
+    QApplication::setActiveWindow(&finestra_);
+    camp_->setFocus();
+  }
+  void Sortir() {
+    altre_.setFocus(Qt::TabFocusReason);
+    QApplication::processEvents();
+  }
+  bool Te_Focus() const { return camp_->hasFocus() || camp_->isAncestorOf(QApplication::focusWidget()); }
+
+ private:
+  QWidget finestra_;
+  QLineEdit altre_;
+  QWidget* camp_;
+};
+
+}  // namespace
+
+TEST(Camp_Numeric, The_period_gives_a_comma) {
+  Camp_Numeric camp;
+  QTest::keyClicks(&camp, QStringLiteral("12.5"));
+  EXPECT_EQ(camp.text(), QStringLiteral("12,5"));
+  EXPECT_EQ(camp.Numero(), 12.5);
+}
+
+TEST(Camp_Numeric, Shows_its_number_under_its_mask) {
+  Camp_Numeric camp;
+  camp.Mascara("#,##0.00000");
+  camp.Numero(1234.5);
+  EXPECT_EQ(camp.text(), QStringLiteral("1.234,50000"));
+  EXPECT_EQ(camp.Numero(), 1234.5);
+}
+
+TEST(Camp_Numeric, Tells_what_is_no_number) {
+  Camp_Numeric camp;
+  camp.setText(QStringLiteral("12a"));
+  EXPECT_FALSE(camp.Es_Numeric());
+}
+
+TEST(Selector_Data, Takes_a_day_or_nothing_and_tells_when_it_changed) {
+  auto* data = new Selector_Data;
+  Finestra_De_Camps finestra(data);
+  const QSignalSpy senyal(data, &Selector_Data::Canviada);
+  QTest::keyClicks(data->Camp_Text(), QStringLiteral("5/3/2026"));
+  finestra.Sortir();
+  EXPECT_EQ(data->Text(), QStringLiteral("05/03/2026"));
+  EXPECT_EQ(senyal.count(), 1);
+  data->Camp_Text()->setFocus();
+  data->Camp_Text()->clear();
+  finestra.Sortir();
+  EXPECT_FALSE(data->Data());
+  EXPECT_EQ(senyal.count(), 2);
+}
+
+TEST(Selector_Data, Keeps_the_focus_on_what_is_no_day) {
+  auto* data = new Selector_Data;
+  Finestra_De_Camps finestra(data);
+  QTest::keyClicks(data->Camp_Text(), QStringLiteral("31/02/2026"));
+  finestra.Sortir();
+  EXPECT_TRUE(finestra.Te_Focus());
+  EXPECT_EQ(data->Camp_Text()->selectedText(), QStringLiteral("31/02/2026"));
+}
+
+class Combo_De_Clients : public Base_Pantalles {
+ protected:
+  Combo_De_Clients() {
+    Executar("INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI) VALUES ('1', 'Àlvarez')");
+    Executar("INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI) VALUES ('2', 'Bosch')");
+    combo->Omplir("SELECT NIF_CLI, RAO_SOCIAL_CLI FROM CLIENTS ORDER BY RAO_SOCIAL_CLI", sessio.Connexio_Comuna,
+                  "NIF_CLI", "RAO_SOCIAL_CLI");
+  }
+  void Escriure(const QString& text) {
+    combo->setFocus();
+    combo->setEditText(text);
+    finestra.Sortir();
+  }
+
+  Combo_Codi* combo = new Combo_Codi;
+  Finestra_De_Camps finestra{combo};
+};
+
+TEST_F(Combo_De_Clients, Nothing_is_chosen_at_first) {
+  EXPECT_EQ(combo->Codi(), "");
+  EXPECT_EQ(combo->currentText(), QString());
+  EXPECT_EQ(combo->count(), 2);
+}
+
+TEST_F(Combo_De_Clients, A_name_typed_in_full_chooses_its_entry) {
+  const QSignalSpy senyal(combo, &Combo_Codi::Triat);
+  Escriure(QStringLiteral("bosch"));
+  EXPECT_EQ(combo->Codi(), "2");
+  EXPECT_EQ(combo->Nom(), "Bosch");
+  EXPECT_EQ(senyal.count(), 1);
+}
+
+TEST_F(Combo_De_Clients, A_name_that_is_none_gives_way_to_the_choice) {
+  combo->Posar("1", "Àlvarez");
+  Escriure(QStringLiteral("ningú"));
+  EXPECT_EQ(combo->currentText(), QStringLiteral("Àlvarez"));
+  EXPECT_EQ(combo->Codi(), "1");
+}
+
+TEST_F(Combo_De_Clients, Shows_a_name_that_the_list_does_not_hold) {
+  combo->Posar("9", "Gone long ago");
+  EXPECT_EQ(combo->currentText(), QStringLiteral("Gone long ago"));
+  EXPECT_EQ(combo->Codi(), "9");
+}
+
+TEST(Camps, Leaving_runs_before_entering_and_neither_runs_while_the_focus_is_kept) {
+  QWidget finestra;
+  QLineEdit a(&finestra);
+  QLineEdit b(&finestra);
+  QStringList fets;
+  En_Sortir(&a, [&] {
+    fets << QStringLiteral("leaves a");
+    if (a.text() == u"bad") Retenir_Focus(&a);
+  });
+  En_Entrar(&b, [&] { fets << QStringLiteral("enters b"); });
+  En_Sortir(&b, [&] { fets << QStringLiteral("leaves b"); });
+  finestra.show();
+  QApplication::setActiveWindow(&finestra);
+  a.setFocus();
+  b.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(fets, (QStringList{QStringLiteral("leaves a"), QStringLiteral("enters b")}));
+  a.setFocus(Qt::TabFocusReason);
+  a.setText(QStringLiteral("bad"));
+  fets.clear();
+  b.setFocus(Qt::TabFocusReason);
+  QApplication::processEvents();
+  EXPECT_EQ(fets, QStringList{QStringLiteral("leaves a")});
+  EXPECT_TRUE(a.hasFocus());
+  EXPECT_EQ(a.selectedText(), QStringLiteral("bad"));
+}

@@ -1,0 +1,72 @@
+// The texts of screens and reports against the screens themselves: every caption in every language.
+#include "schema/Textos.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTextStream>
+#include <filesystem>
+
+#include "tests/pantalles/Base_Pantalles.h"
+
+namespace {
+
+const QString arrel = QStringLiteral(CARPETA_PROVES "/..");
+
+QString Llegir(const QString& fitxer) {
+  QFile obert(fitxer);
+  if (!obert.open(QIODevice::ReadOnly)) return {};
+  return QString::fromUtf8(obert.readAll());
+}
+
+// Names of the controls of a .ui file whose caption a person reads.
+QStringList Controls_Amb_Titol(const QString& ui) {
+  static const QRegularExpression control(
+      QStringLiteral("<widget class=\"(QLabel|QPushButton|QCheckBox|QGroupBox)\" name=\"([^\"]+)\">"));
+  QStringList noms;
+  for (auto it = control.globalMatch(ui); it.hasNext();) noms << it.next().captured(2);
+  return noms;
+}
+
+QSet<QString> Controls_Amb_Text(const QString& objecte) {
+  QSet<QString> noms;
+  for (const auto& text : Textos_De_Pantalles()) {
+    if (objecte.toStdString() == text.objecte)
+      noms << QString::fromStdString(text.control).section(u'.', 0, 0).toUpper();
+  }
+  return noms;
+}
+
+}  // namespace
+
+TEST(Textos, Every_line_has_its_three_languages) {
+  EXPECT_GT(Textos_De_Pantalles().size(), 100U);
+  for (const auto& text : Textos_De_Pantalles()) {
+    const std::string quin = text.objecte + " " + text.control;
+    EXPECT_FALSE(text.control.empty()) << quin;
+    EXPECT_TRUE(text.propietat == "CAPTION" || text.propietat == "TEXT" || text.propietat == "TABCAPTION" ||
+                text.propietat == "TOOLTIPTEXT")
+        << quin << ": " << text.propietat;
+    for (const auto& paraules : text.text) EXPECT_FALSE(paraules.empty()) << quin;
+  }
+}
+
+TEST(Textos, Every_caption_of_every_screen_has_its_line) {
+  int pantalles = 0;
+  for (const auto& fitxer : std::filesystem::recursive_directory_iterator(arrel.toStdString())) {
+    const QString cami = QString::fromStdString(fitxer.path().string());
+    if (!cami.endsWith(u".ui") || cami.contains(u"/build/")) continue;
+    ++pantalles;
+    const QString objecte = QString::fromStdString(fitxer.path().stem().string()).toUpper();
+    const QSet<QString> amb_text = Controls_Amb_Text(objecte);
+    EXPECT_TRUE(amb_text.contains(objecte)) << objecte.toStdString() << " has no caption of its own";
+    for (const QString& nom : Controls_Amb_Titol(Llegir(cami))) {
+      if (nom == u"B_CLIENT" || nom == u"B_ARTICLESM" || nom == u"B_COMANDES") continue;  // three dots in any language
+      EXPECT_TRUE(amb_text.contains(nom.toUpper())) << objecte.toStdString() << " " << nom.toStdString();
+    }
+  }
+  EXPECT_GE(pantalles, 4);
+}
