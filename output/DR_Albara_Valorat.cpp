@@ -1,88 +1,133 @@
 #include "output/DR_Albara_Valorat.h"
 
+#include <cmath>
+
+namespace {
+
+using enum Mena_Control;
+using enum Costat;
+using enum Ajust;
+
+constexpr int files_peu = 4;
+constexpr int gruix_ratlla = 10;  // half a point
+
+constexpr Estil_Lletra nom_empresa{15, true};
+constexpr Estil_Lletra dades_empresa{9, false, Tinta::Grisa};
+constexpr Estil_Lletra titol{8, false, Tinta::Grisa};
+constexpr Estil_Lletra titol_columna{8.5, true};
+constexpr Estil_Lletra text{9.5};
+constexpr Estil_Lletra nom_client{10.5, true};
+constexpr Estil_Lletra numero{14, true};
+constexpr Estil_Lletra clara{0, false, Tinta::Clara};
+constexpr Estil_Lletra fosca{0};
+
+int Mm(double mil_limetres) {
+  return static_cast<int>(std::lround(mil_limetres * 1440 / 25.4));
+}
+// Millimetres from the left margin and from the top of the section.
+QRect Lloc(double x, double y, double ample, double alt) {
+  return {Mm(x), Mm(y), Mm(ample), Mm(alt)};
+}
+QRect Ratlla_A(double x, double y, double ample) {
+  return {Mm(x), Mm(y), Mm(ample), gruix_ratlla};
+}
+
+// The customer stands where the window of an envelope shows it: from 105 mm of the sheet's left edge, between 50 and 80
+// mm of its top.
+std::vector<Control_Informe> Encapcalament() {
+  constexpr auto s = Seccio::Encapcalament;
+  return {
+      {u"L_RAO_SOCIAL_EMP"_qs, s, Etiqueta, Lloc(0, 0, 180, 7), nom_empresa},
+      {u"L_NIF_EMP"_qs, s, Etiqueta, Lloc(0, 7.6, 180, 4), dades_empresa},
+      {u"L_ADREÇA_EMP"_qs, s, Etiqueta, Lloc(0, 11.8, 180, 4), dades_empresa},
+      {u"L_CP_POBLACIO_EMP"_qs, s, Etiqueta, Lloc(0, 16, 180, 4), dades_empresa},
+      {u"R_EMPRESA"_qs, s, Ratlla, Ratlla_A(0, 22.5, 180), clara},
+
+      {u"L_ALBARA"_qs, s, Etiqueta, Lloc(0, 38.9, 22, 4), titol, Esquerra, Encongir, u"Albarà"_qs},
+      {u"L_TXT_ALBARA"_qs, s, Etiqueta, Lloc(23, 37, 58, 6), numero},
+      {u"L_DATA"_qs, s, Etiqueta, Lloc(0, 46.4, 22, 4), titol, Esquerra, Encongir, u"Data"_qs},
+      {u"L_TXT_DATA"_qs, s, Etiqueta, Lloc(23, 46, 58, 4), text},
+      {u"L_NIF"_qs, s, Etiqueta, Lloc(0, 51.9, 22, 4), titol, Esquerra, Encongir, u"NIF"_qs},
+      {u"L_TXT_NIF"_qs, s, Etiqueta, Lloc(23, 51.5, 58, 4), text},
+
+      {u"L_NOM_FISCAL"_qs, s, Etiqueta, Lloc(90, 37.9, 90, 5), nom_client},
+      {u"L_NOM_COMERCIAL"_qs, s, Etiqueta, Lloc(90, 43.4, 90, 4), text},
+      {u"L_DIRECCIO"_qs, s, Etiqueta, Lloc(90, 48.3, 90, 4), text},
+      {u"L_POBLACIO"_qs, s, Etiqueta, Lloc(90, 53.2, 90, 4), text},
+
+      {u"L_OBSR"_qs, s, Etiqueta, Lloc(0, 65.4, 22, 4), titol, Esquerra, Encongir, u"Observacions"_qs},
+      {u"L_TXT_OBSR"_qs, s, Etiqueta, Lloc(23, 65, 157, 12.4), text, Esquerra, Partir},
+
+      {u"R_TITOLS_DALT"_qs, s, Ratlla, Ratlla_A(0, 80, 180), fosca},
+      {u"L_DESCRIPCIO_AL"_qs, s, Etiqueta, Lloc(0, 81.6, 92, 4), titol_columna, Esquerra, Encongir, u"Descripció"_qs},
+      {u"L_UNITATS_AL"_qs, s, Etiqueta, Lloc(95, 81.6, 20, 4), titol_columna, Dreta, Encongir, u"Unitats"_qs},
+      {u"L_PREU_UNITARI_AL"_qs, s, Etiqueta, Lloc(117, 81.6, 23, 4), titol_columna, Dreta, Encongir, u"Preu €"_qs},
+      {u"L_DTE_AL"_qs, s, Etiqueta, Lloc(141, 81.6, 14, 4), titol_columna, Dreta, Encongir, u"Dte %"_qs},
+      {u"L_TOTAL_IMPORT_AL"_qs, s, Etiqueta, Lloc(156, 81.6, 24, 4), titol_columna, Dreta, Encongir, u"Import €"_qs},
+      {u"R_TITOLS_BAIX"_qs, s, Ratlla, Ratlla_A(0, 86.6, 180), fosca},
+  };
+}
+
+std::vector<Control_Informe> Detall() {
+  constexpr auto s = Seccio::Detall;
+  return {
+      {u"TXT_DESCRIPCIO_AL"_qs, s, Camp, Lloc(0, 1, 92, 4), text, Esquerra, Creixer},
+      {u"TXT_UNITATS_AL"_qs, s, Camp, Lloc(95, 1, 20, 4), text, Dreta},
+      {u"TXT_PREU_UNITARI_AL"_qs, s, Camp, Lloc(117, 1, 23, 4), text, Dreta},
+      {u"TXT_DTE_AL"_qs, s, Camp, Lloc(141, 1, 14, 4), text, Dreta},
+      {u"TXT_TOTAL_IMPORT_AL"_qs, s, Camp, Lloc(156, 1, 24, 4), text, Dreta},
+  };
+}
+
+std::vector<Control_Informe> Peu_De_Pagina() {
+  return {{u"L_PAGINA"_qs, Seccio::Peu_De_Pagina, Comptador, Lloc(140, 5, 40, 4), titol, Dreta, Encongir, u"%p/%P"_qs}};
+}
+
+struct Columna_Peu {
+  const char16_t* nom;
+  const char16_t* titol;
+  double x;
+  double ample;
+};
+constexpr Columna_Peu columnes_peu[] = {
+    {u"L_BASE", u"Base €", 0, 24},   {u"L_IVA_PORC", u"% IVA", 25, 12}, {u"L_IVA_IMP", u"IVA €", 38, 21},
+    {u"L_RE_PORC", u"% RE", 60, 12}, {u"L_RE_IMP", u"RE €", 73, 20},    {u"L_IMPORT_BRUT", u"Import €", 94, 25},
+};
+
+// The tax rows on the left, what they come to on the right.
+std::vector<Control_Informe> Peu_D_Informe() {
+  constexpr auto s = Seccio::Peu_D_Informe;
+  std::vector<Control_Informe> controls{
+      {u"R_PEU"_qs, s, Ratlla, Ratlla_A(0, 4, 180), fosca},
+      {u"L_NETO"_qs, s, Etiqueta, Lloc(132, 6.4, 18, 4), titol, Esquerra, Encongir, u"Net €"_qs},
+      {u"L_NETO_IMP"_qs, s, Etiqueta, Lloc(150, 6, 30, 4), text, Dreta},
+      {u"R_TOTAL"_qs, s, Ratlla, Ratlla_A(132, 25.5, 48), fosca},
+      {u"L_IMPORT_TOTAL"_qs, s, Etiqueta, Lloc(132, 28.3, 18, 5), nom_client, Esquerra, Encongir, u"Total €"_qs},
+      {u"L_IMPORT_TOTAL_IMP"_qs, s, Etiqueta, Lloc(150, 27.2, 30, 6), numero, Dreta},
+  };
+  for (const auto& [nom, caption, x, ample] : columnes_peu) {
+    const QString base = QString::fromUtf16(nom);
+    controls.push_back(
+        {base, s, Etiqueta, Lloc(x, 6.4, ample, 4), titol, Dreta, Encongir, QString::fromUtf16(caption)});
+    for (int fila = 1; fila <= files_peu; ++fila) {
+      controls.push_back(
+          {base + u'_' + QString::number(fila), s, Etiqueta, Lloc(x, 6.6 + 5 * fila, ample, 4), text, Dreta});
+    }
+  }
+  return controls;
+}
+
+Definicio_Informe Definir() {
+  Definicio_Informe definicio{"DR_ALBARA_VALORAT", {Mm(88.2), Mm(5.8), Mm(9), Mm(34)}, {}};
+  for (const auto& seccio : {Encapcalament(), Detall(), Peu_De_Pagina(), Peu_D_Informe()}) {
+    definicio.controls.insert(definicio.controls.end(), seccio.begin(), seccio.end());
+  }
+  return definicio;
+}
+
+}  // namespace
+
 const Definicio_Informe& DR_Albara_Valorat() {
-  constexpr auto dalt = Seccio::Encapcalament;
-  constexpr auto detall = Seccio::Detall;
-  constexpr auto peu_pagina = Seccio::Peu_De_Pagina;
-  constexpr auto peu_informe = Seccio::Peu_D_Informe;
-  constexpr auto etiqueta = Mena_Control::Etiqueta;
-  constexpr auto camp = Mena_Control::Camp;
-  constexpr auto ratlla = Mena_Control::Ratlla;
-  constexpr auto comptador = Mena_Control::Comptador;
-  // Name, section, kind, left, top, width, height (twips), alignment, caption, size, bold, grows.
-  // clang-format off
-  static const Definicio_Informe definicio{
-      .nom = "DR_ALBARA_VALORAT",
-      .alcades = {3600, 280, 360, 2350},
-      .controls = {
-        {u"L_RAO_SOCIAL_EMP", dalt, etiqueta, 0, 0, 6200, 380, Qt::AlignLeft, u"", 15, true, false},
-        {u"L_NIF_EMP", dalt, etiqueta, 0, 420, 6200, 230, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_ADREÇA_EMP", dalt, etiqueta, 0, 650, 6200, 230, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_CP_POBLACIO_EMP", dalt, etiqueta, 0, 880, 6200, 230, Qt::AlignLeft, u"", 9, false, false},
-        {u"R_EMPRESA", dalt, ratlla, 0, 1220, 10206, 10, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_ALBARA", dalt, etiqueta, 0, 1620, 1350, 250, Qt::AlignLeft, u"Albarà", 9, false, false},
-        {u"L_TXT_ALBARA", dalt, etiqueta, 1400, 1590, 3400, 290, Qt::AlignLeft, u"", 11, true, false},
-        {u"L_DATA", dalt, etiqueta, 0, 1920, 1350, 250, Qt::AlignLeft, u"Data", 9, false, false},
-        {u"L_TXT_DATA", dalt, etiqueta, 1400, 1920, 3400, 290, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_NIF", dalt, etiqueta, 0, 2220, 1350, 250, Qt::AlignLeft, u"NIF", 9, false, false},
-        {u"L_TXT_NIF", dalt, etiqueta, 1400, 2220, 3400, 290, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_OBSR", dalt, etiqueta, 0, 2520, 1350, 250, Qt::AlignLeft, u"Observacions", 9, false, false},
-        {u"L_TXT_OBSR", dalt, etiqueta, 1400, 2520, 3400, 290, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_NOM_FISCAL", dalt, etiqueta, 5300, 1600, 4900, 280, Qt::AlignLeft, u"", 11, true, false},
-        {u"L_NOM_COMERCIAL", dalt, etiqueta, 5300, 1900, 4900, 250, Qt::AlignLeft, u"", 10, false, false},
-        {u"L_DIRECCIO", dalt, etiqueta, 5300, 2170, 4900, 250, Qt::AlignLeft, u"", 10, false, false},
-        {u"L_POBLACIO", dalt, etiqueta, 5300, 2440, 4900, 250, Qt::AlignLeft, u"", 10, false, false},
-        {u"R_TITOLS_DALT", dalt, ratlla, 0, 3200, 10206, 12, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_DESCRIPCIO_AL", dalt, etiqueta, 0, 3260, 5050, 240, Qt::AlignLeft, u"Descripció", 9, true, false},
-        {u"L_UNITATS_AL", dalt, etiqueta, 5130, 3260, 1080, 240, Qt::AlignRight, u"Unitats", 9, true, false},
-        {u"L_PREU_UNITARI_AL", dalt, etiqueta, 6290, 3260, 1250, 240, Qt::AlignRight, u"Preu €", 9, true, false},
-        {u"L_DTE_AL", dalt, etiqueta, 7620, 3260, 800, 240, Qt::AlignRight, u"Dte %", 9, true, false},
-        {u"L_TOTAL_IMPORT_AL", dalt, etiqueta, 8500, 3260, 1706, 240, Qt::AlignRight, u"Import €", 9, true, false},
-        {u"R_TITOLS_BAIX", dalt, ratlla, 0, 3530, 10206, 6, Qt::AlignLeft, u"", 9, false, false},
-        {u"TXT_DESCRIPCIO_AL", detall, camp, 0, 20, 5050, 230, Qt::AlignLeft, u"", 9, false, true},
-        {u"TXT_UNITATS_AL", detall, camp, 5130, 20, 1080, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"TXT_PREU_UNITARI_AL", detall, camp, 6290, 20, 1250, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"TXT_DTE_AL", detall, camp, 7620, 20, 800, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"TXT_TOTAL_IMPORT_AL", detall, camp, 8500, 20, 1706, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_PAGINA", peu_pagina, comptador, 0, 120, 10206, 220, Qt::AlignHCenter, u"%p/%P", 8, false, false},
-        {u"R_NET", peu_informe, ratlla, 0, 0, 10206, 12, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_NETO", peu_informe, etiqueta, 6290, 90, 2130, 250, Qt::AlignRight, u"Import net €", 9, false, false},
-        {u"L_NETO_IMP", peu_informe, etiqueta, 8500, 90, 1706, 250, Qt::AlignRight, u"", 9, false, false},
-        {u"L_BASE", peu_informe, etiqueta, 0, 470, 1700, 230, Qt::AlignRight, u"Base", 8.5, true, false},
-        {u"L_IVA_PORC", peu_informe, etiqueta, 1780, 470, 1000, 230, Qt::AlignRight, u"% IVA", 8.5, true, false},
-        {u"L_IVA_IMP", peu_informe, etiqueta, 2860, 470, 1500, 230, Qt::AlignRight, u"IVA", 8.5, true, false},
-        {u"L_RE_PORC", peu_informe, etiqueta, 4440, 470, 1000, 230, Qt::AlignRight, u"% RE", 8.5, true, false},
-        {u"L_RE_IMP", peu_informe, etiqueta, 5520, 470, 1500, 230, Qt::AlignRight, u"RE", 8.5, true, false},
-        {u"L_IMPORT_BRUT", peu_informe, etiqueta, 8500, 470, 1706, 230, Qt::AlignRight, u"Import €", 8.5, true, false},
-        {u"R_PEU", peu_informe, ratlla, 0, 720, 10206, 6, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_BASE_1", peu_informe, etiqueta, 0, 760, 1700, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IVA_PORC_1", peu_informe, etiqueta, 1780, 760, 1000, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IVA_IMP_1", peu_informe, etiqueta, 2860, 760, 1500, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_RE_PORC_1", peu_informe, etiqueta, 4440, 760, 1000, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_RE_IMP_1", peu_informe, etiqueta, 5520, 760, 1500, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IMPORT_BRUT_1", peu_informe, etiqueta, 8500, 760, 1706, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_BASE_2", peu_informe, etiqueta, 0, 1010, 1700, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IVA_PORC_2", peu_informe, etiqueta, 1780, 1010, 1000, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IVA_IMP_2", peu_informe, etiqueta, 2860, 1010, 1500, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_RE_PORC_2", peu_informe, etiqueta, 4440, 1010, 1000, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_RE_IMP_2", peu_informe, etiqueta, 5520, 1010, 1500, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IMPORT_BRUT_2", peu_informe, etiqueta, 8500, 1010, 1706, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_BASE_3", peu_informe, etiqueta, 0, 1260, 1700, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IVA_PORC_3", peu_informe, etiqueta, 1780, 1260, 1000, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IVA_IMP_3", peu_informe, etiqueta, 2860, 1260, 1500, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_RE_PORC_3", peu_informe, etiqueta, 4440, 1260, 1000, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_RE_IMP_3", peu_informe, etiqueta, 5520, 1260, 1500, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IMPORT_BRUT_3", peu_informe, etiqueta, 8500, 1260, 1706, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_BASE_4", peu_informe, etiqueta, 0, 1510, 1700, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IVA_PORC_4", peu_informe, etiqueta, 1780, 1510, 1000, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IVA_IMP_4", peu_informe, etiqueta, 2860, 1510, 1500, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_RE_PORC_4", peu_informe, etiqueta, 4440, 1510, 1000, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_RE_IMP_4", peu_informe, etiqueta, 5520, 1510, 1500, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"L_IMPORT_BRUT_4", peu_informe, etiqueta, 8500, 1510, 1706, 230, Qt::AlignRight, u"", 9, false, false},
-        {u"R_TOTAL", peu_informe, ratlla, 6290, 1820, 3916, 12, Qt::AlignLeft, u"", 9, false, false},
-        {u"L_IMPORT_TOTAL", peu_informe, etiqueta, 5520, 1920, 2900, 330, Qt::AlignRight, u"Total €", 12, true, false},
-        {u"L_IMPORT_TOTAL_IMP", peu_informe, etiqueta, 8500, 1920, 1706, 330, Qt::AlignRight, u"", 12, true, false},
-      }};
-  // clang-format on
+  static const Definicio_Informe definicio = Definir();
   return definicio;
 }

@@ -1,10 +1,13 @@
 #include "core/pantalla/Camps.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTimer>
+
+#include "core/pantalla/Formulari.h"
 
 namespace {
 
@@ -12,6 +15,20 @@ bool retencio_pendent = false;
 
 bool Canvia_De_Finestra(Qt::FocusReason motiu) {
   return motiu == Qt::ActiveWindowFocusReason || motiu == Qt::PopupFocusReason || motiu == Qt::MenuBarFocusReason;
+}
+
+const Formulari* Formulari_De(const QWidget* camp) {
+  while (camp != nullptr && qobject_cast<const Formulari*>(camp) == nullptr) camp = camp->parentWidget();
+  return static_cast<const Formulari*>(camp);
+}
+
+// The focus goes from one field to another of the same form, which stays open. A form that closes takes the focus from
+// its fields without anybody leaving them.
+bool Va_D_Un_Camp_A_Un_Altre(const QWidget* camp) {
+  const QWidget* ara = QApplication::focusWidget();
+  const Formulari* formulari = Formulari_De(camp);
+  if (ara == nullptr || ara->window() != camp->window() || Formulari_De(ara) != formulari) return false;
+  return formulari == nullptr || !formulari->Es_Tanca();
 }
 
 // Tells of one kind of focus event of a widget.
@@ -27,7 +44,7 @@ class Vigia_De_Focus : public QObject {
     if (event->type() == tipus_ && !retencio_pendent) {
       const bool fora = Canvia_De_Finestra(static_cast<QFocusEvent*>(event)->reason());
       const QPointer<QObject> viu(objecte);
-      if (!fora) rutina_();
+      if (!fora && Va_D_Un_Camp_A_Un_Altre(static_cast<QWidget*>(parent()))) rutina_();
       if (!viu) return true;
     }
     return QObject::eventFilter(objecte, event);

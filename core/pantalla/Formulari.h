@@ -16,6 +16,7 @@ class Formulari : public QWidget {
  public:
   explicit Formulari(const QString& nom);  // becomes the object name: F_Albara
   QString Nom() const { return objectName(); }
+  bool Es_Tanca() const { return descarregat_; }
 
   virtual void Carregar() {}       // once, before it is shown
   virtual void Activar() {}        // each time it comes to the front

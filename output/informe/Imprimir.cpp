@@ -25,10 +25,10 @@ struct Descripcio_Impressio {
   const char16_t* prefix_pdf;  // A-12.pdf
 };
 
-const Descripcio_Impressio* Descripcio_De(const Tipus_Document& tipus) {
+const Descripcio_Impressio& Descripcio_De(const Tipus_Document& tipus) {
   static const Descripcio_Impressio descripcions[] = {{tipus_albara, DR_Albara_Valorat(), " - Tel. ", u"A-"}};
   for (const auto& descripcio : descripcions) {
-    if (&descripcio.tipus == &tipus) return &descripcio;
+    if (&descripcio.tipus == &tipus) return descripcio;
   }
   throw Error_Brollador(errors::general, "Imprimir_Document", "no report for " + std::string(tipus.formulari));
 }
@@ -46,7 +46,7 @@ class Ompliment {
   Ompliment(const Descripcio_Impressio& descripcio, const Valor& numero, const std::string& empresa)
       : d_(descripcio), numero_(numero), empresa_(empresa), informe_(descripcio.definicio) {}
 
-  Informe& Fer() {
+  Pagines Fer(Recordset& files) {
     informe_.Traduir();
     Empresa();
     Descompte();
@@ -55,7 +55,9 @@ class Ompliment {
     Valorat_O_No();
     Posar("L_NETO_IMP", Format_Numero(Net_Impres(d_.tipus), mascara));
     Peu();
-    return informe_;
+    return {.titol = informe_.Caption(QStringLiteral("L_ALBARA")) + u' ' + Qt_Text(numero_.Text()),
+            .autor = informe_.Caption(QStringLiteral("L_RAO_SOCIAL_EMP")),
+            .pagines = informe_.Maquetar(files)};
   }
 
  private:
@@ -131,7 +133,10 @@ class Ompliment {
 };
 
 void Treure(const Pagines& pagines, const QString& fitxer_pdf, int mode) {
-  if (mode == impressio::pdf) return Escriure_PDF(pagines, fitxer_pdf);
+  if (mode == impressio::pdf) {
+    Crear_Directori(sessio.Dir_Temp);
+    return Escriure_PDF(pagines, fitxer_pdf);
+  }
   if (carpeta_treballs.isEmpty()) return Dialeg_Impressio(pagines, QApplication::activeWindow());
   darrer_treball = QStringLiteral("%1/treball-%2.pdf").arg(carpeta_treballs).arg(++treballs);
   Escriure_PDF(pagines, darrer_treball);
@@ -160,19 +165,15 @@ class Taula_De_Treball {
 }  // namespace
 
 void Imprimir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) {
-  const Descripcio_Impressio& descripcio = *Descripcio_De(tipus);
+  const Descripcio_Impressio& descripcio = Descripcio_De(tipus);
   const Taula_De_Treball taula(tipus, numero, empresa);
-  Recordset files("SELECT * FROM " + Taula_Impressio(tipus) + " ORDER BY " + tipus.lin.Columna("LIN"),
-                  sessio.Connexio_Local);
+  Recordset files(SQL_Impressio(tipus), sessio.Connexio_Local);
   if (files.RecordCount() == 0) return;
-  Ompliment ompliment(descripcio, numero, empresa);
-  const QString fitxer = Fitxer_PDF(tipus, numero);
-  const QString titol = fitxer.section(u'/', -1).chopped(4);
-  Treure(ompliment.Fer().Maquetar(files, titol), fitxer, mode);
+  Treure(Ompliment(descripcio, numero, empresa).Fer(files), Fitxer_PDF(tipus, numero), mode);
 }
 
 QString Fitxer_PDF(const Tipus_Document& tipus, const Valor& numero) {
-  return Qt_Text(sessio.Dir_Temp) + QString::fromUtf16(Descripcio_De(tipus)->prefix_pdf) + Qt_Text(numero.Text()) +
+  return Qt_Text(sessio.Dir_Temp) + QString::fromUtf16(Descripcio_De(tipus).prefix_pdf) + Qt_Text(numero.Text()) +
          QStringLiteral(".pdf");
 }
 

@@ -22,9 +22,8 @@ class Finestra_Previa : public QDialog {
     setObjectName(QStringLiteral("F_Previsualitzar"));
     setWindowTitle(pagines.titol);
     resize(900, 680);
-    impressora_.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
-    impressora_.setFullPage(true);
-    if (QPrinterInfo::availablePrinters().isEmpty()) impressora_.setOutputFormat(QPrinter::PdfFormat);
+    impressora_.setOutputFormat(QPrinter::PdfFormat);  // a preview needs no printer
+    Preparar_Impressora(pagines, impressora_);
     vista_ = new QPrintPreviewWidget(&impressora_, this);
     connect(vista_, &QPrintPreviewWidget::paintRequested, this,
             [this](QPrinter* impressora) { Enviar_A_Impressora(pagines_, *impressora); });
@@ -52,9 +51,11 @@ class Finestra_Previa : public QDialog {
       return nova;
     };
     accio(Paraula("Imprimir", "Imprimir", "Print"), Icona(Dibuix::Imprimir), QKeySequence::Print, [this] {
-      Demanar_Impressora(pagines_, this);
-    })->setEnabled(!QPrinterInfo::availablePrinters().isEmpty());
-    accio(QStringLiteral("PDF"), Icona(Dibuix::Llista), QKeySequence::Save, [this] { Demanar_PDF(pagines_, this); });
+      if (Demanar_Impressora(pagines_, this)) accept();
+    })->setEnabled(!QPrinterInfo::availablePrinterNames().isEmpty());
+    accio(QStringLiteral("PDF"), Icona(Dibuix::Llista), QKeySequence::Save, [this] {
+      if (Demanar_PDF(pagines_, this)) accept();
+    });
     barra->addSeparator();
     accio(Paraula("Anterior", "Anterior", "Previous"), Icona(Dibuix::Amunt), Qt::Key_PageUp, [this] { Anar(-1); });
     accio(Paraula("Següent", "Siguiente", "Next"), Icona(Dibuix::Avall), Qt::Key_PageDown, [this] { Anar(1); });
@@ -87,6 +88,6 @@ class Finestra_Previa : public QDialog {
 
 }  // namespace
 
-void Previsualitzar(const Pagines& pagines, QWidget* pare) {
-  Finestra_Previa(pagines, pare).exec();
+bool Previsualitzar(const Pagines& pagines, QWidget* pare) {
+  return Finestra_Previa(pagines, pare).exec() == QDialog::Accepted;
 }

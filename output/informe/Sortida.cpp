@@ -1,5 +1,6 @@
 #include "output/informe/Sortida.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
@@ -10,6 +11,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
@@ -26,62 +28,93 @@ QString Paraula(const char* catala, const char* castella, const char* angles) {
   return QString::fromStdString(Missatge(catala, castella, angles));
 }
 
-template <class Aparell>
-void Pintar_A(Aparell& aparell, const Pagines& pagines, int des_de, int fins_a) {
+[[noreturn]] void Llancar_No_Escrit(const QString& detall) {
+  const std::string text =
+      Missatge("No es pot escriure el document", "No se puede escribir el documento", "The document cannot be written");
+  throw Error_Brollador(errors::general, "Sortida", text + ": " + detall.toStdString());
+}
+
+// False when the device takes nothing.
+bool Pintar_A(QPagedPaintDevice& aparell, const Pagines& pagines, int des_de, int fins_a) {
   QPainter pintor;
-  if (!pintor.begin(&aparell)) {
-    throw Error_Brollador(errors::general, "Sortida",
-                          Missatge("No es pot escriure el document", "No se puede escribir el documento",
-                                   "The document cannot be written"));
-  }
+  if (!pintor.begin(&aparell)) return false;
   const double escala = aparell.logicalDpiX() / twips_per_polzada;
   for (int pagina = des_de; pagina <= fins_a; ++pagina) {
-    if (pagina > des_de) aparell.newPage();
-    pintor.save();
+    if (pagina > des_de && !aparell.newPage()) return false;
+    pintor.resetTransform();
     pintor.scale(escala, escala);
     Pintar_Pagina(pintor, pagines.pagines[static_cast<std::size_t>(pagina)]);
-    pintor.restore();
   }
+  return pintor.end();
 }
 
 int Ultima(const Pagines& pagines) {
   return static_cast<int>(pagines.pagines.size()) - 1;
 }
 
+// Title and author for whoever lists or searches the files.
+QByteArray Metadades(const Pagines& pagines) {
+  return QStringLiteral(
+             "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>"
+             "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+             "<rdf:Description rdf:about=\"\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\">"
+             "<dc:title><rdf:Alt><rdf:li xml:lang=\"x-default\">%1</rdf:li></rdf:Alt></dc:title>"
+             "<dc:creator><rdf:Seq><rdf:li>%2</rdf:li></rdf:Seq></dc:creator>"
+             "</rdf:Description></rdf:RDF></x:xmpmeta><?xpacket end=\"r\"?>")
+      .arg(pagines.titol.toHtmlEscaped(), pagines.autor.toHtmlEscaped())
+      .toUtf8();
+}
+
+QPageLayout Full_A4() {
+  return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()};
+}
+
 }  // namespace
 
 void Escriure_PDF(const Pagines& pagines, const QString& fitxer) {
-  QPdfWriter pdf(fitxer);
-  pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
+  QSaveFile sortida(fitxer);
+  if (!sortida.open(QIODevice::WriteOnly)) Llancar_No_Escrit(fitxer + QStringLiteral(": ") + sortida.errorString());
+  QPdfWriter pdf(&sortida);
+  pdf.setPageLayout(Full_A4());
   pdf.setResolution(1200);
   pdf.setTitle(pagines.titol);
   pdf.setCreator(QStringLiteral("Brollador"));
-  Pintar_A(pdf, pagines, 0, Ultima(pagines));
+  pdf.setDocumentXmpMetadata(Metadades(pagines));
+  const bool escrit = Pintar_A(pdf, pagines, 0, Ultima(pagines));
+  if (!escrit || !sortida.commit()) Llancar_No_Escrit(fitxer + QStringLiteral(": ") + sortida.errorString());
+}
+
+void Preparar_Impressora(const Pagines& pagines, QPrinter& impressora) {
+  impressora.setFullPage(true);
+  impressora.setPageLayout(Full_A4());
+  impressora.setDocName(pagines.titol);
 }
 
 void Enviar_A_Impressora(const Pagines& pagines, QPrinter& impressora) {
   const bool tram = impressora.printRange() == QPrinter::PageRange && impressora.fromPage() > 0;
-  const int des_de = tram ? impressora.fromPage() - 1 : 0;
-  Pintar_A(impressora, pagines, std::min(des_de, Ultima(pagines)),
-           tram ? std::min(impressora.toPage() - 1, Ultima(pagines)) : Ultima(pagines));
+  const int ultima = tram ? std::min(impressora.toPage() - 1, Ultima(pagines)) : Ultima(pagines);
+  const int primera = tram ? std::min(impressora.fromPage() - 1, ultima) : 0;
+  if (!Pintar_A(impressora, pagines, primera, ultima)) Llancar_No_Escrit(impressora.printerName());
 }
 
-void Demanar_Impressora(const Pagines& pagines, QWidget* pare) {
+bool Demanar_Impressora(const Pagines& pagines, QWidget* pare) {
   QPrinter impressora(QPrinter::HighResolution);
-  impressora.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
-  impressora.setFullPage(true);
-  impressora.setDocName(pagines.titol);
+  Preparar_Impressora(pagines, impressora);
   QPrintDialog dialeg(&impressora, pare);
   dialeg.setMinMax(1, Ultima(pagines) + 1);
-  if (dialeg.exec() == QDialog::Accepted) Enviar_A_Impressora(pagines, impressora);
+  if (dialeg.exec() != QDialog::Accepted) return false;
+  Enviar_A_Impressora(pagines, impressora);
+  return true;
 }
 
-void Demanar_PDF(const Pagines& pagines, QWidget* pare) {
+bool Demanar_PDF(const Pagines& pagines, QWidget* pare) {
   const QString carpeta = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   const QString fitxer = QFileDialog::getSaveFileName(
       pare, Paraula("Desar com a PDF", "Guardar como PDF", "Save as PDF"),
       carpeta + u'/' + pagines.titol + QStringLiteral(".pdf"), QStringLiteral("PDF (*.pdf)"));
-  if (!fitxer.isEmpty()) Escriure_PDF(pagines, fitxer);
+  if (fitxer.isEmpty()) return false;
+  Escriure_PDF(pagines, fitxer);
+  return true;
 }
 
 void Dialeg_Impressio(const Pagines& pagines, QWidget* pare) {
@@ -98,24 +131,29 @@ void Dialeg_Impressio(const Pagines& pagines, QWidget* pare) {
   columna->addWidget(
       new QLabel(Paraula("Pàgines: ", "Páginas: ", "Pages: ") + QString::number(Ultima(pagines) + 1), &dialeg));
   columna->addSpacing(8);
-  const auto boto = [&](const QString& text, Dibuix dibuix, const std::function<void()>& rutina) {
+  // The dialog stays for as long as nothing has come of it.
+  const auto boto = [&](const char* nom, const QString& text, Dibuix dibuix, const std::function<bool()>& rutina) {
     auto* nou = new QPushButton(text, &dialeg);
+    nou->setObjectName(QString::fromUtf8(nom));
     nou->setMinimumSize(240, 34);
     Dibuixar(nou, dibuix);
     QObject::connect(nou, &QPushButton::clicked, &dialeg, [&dialeg, rutina] {
-      Formulari::Guardar_Event(rutina);
-      dialeg.accept();
+      bool fet = false;
+      Formulari::Guardar_Event([&] { fet = rutina(); });
+      if (fet) dialeg.accept();
     });
     columna->addWidget(nou);
     return nou;
   };
-  auto* imprimir = boto(Paraula("&Imprimir...", "&Imprimir...", "&Print..."), Dibuix::Imprimir,
-                        [&] { Demanar_Impressora(pagines, &dialeg); });
-  imprimir->setEnabled(!QPrinterInfo::availablePrinters().isEmpty());
-  boto(Paraula("&Previsualitzar", "&Vista previa", "Pre&view"), Dibuix::Cercar,
-       [&] { Previsualitzar(pagines, &dialeg); });
-  boto(Paraula("&Desar com a PDF...", "&Guardar como PDF...", "&Save as PDF..."), Dibuix::Llista,
-       [&] { Demanar_PDF(pagines, &dialeg); });
-  boto(Paraula("&Cancel·lar", "&Cancelar", "&Cancel"), Dibuix::Sortir, [] {});
+  auto* imprimir = boto("B_Imprimir", Paraula("&Imprimir...", "&Imprimir...", "&Print..."), Dibuix::Imprimir,
+                        [&] { return Demanar_Impressora(pagines, &dialeg); });
+  imprimir->setEnabled(!QPrinterInfo::availablePrinterNames().isEmpty());
+  boto("B_Previsualitzar", Paraula("&Previsualitzar", "&Vista previa", "Pre&view"), Dibuix::Cercar,
+       [&] { return Previsualitzar(pagines, &dialeg); });
+  boto("B_PDF", Paraula("&Desar com a PDF...", "&Guardar como PDF...", "&Save as PDF..."), Dibuix::Llista,
+       [&] { return Demanar_PDF(pagines, &dialeg); });
+  boto("B_Exit", Paraula("&Cancel·lar", "&Cancelar", "&Cancel"), Dibuix::Sortir, [] { return true; });
+  QApplication::setOverrideCursor(Qt::ArrowCursor);
   dialeg.exec();
+  QApplication::restoreOverrideCursor();
 }

@@ -7,15 +7,16 @@ struct Pagines;
 class QPrinter;
 class QWidget;
 
-// Raises 0x80004005 when the file cannot be written.
+// The file appears complete or not at all; raises 0x80004005 when it cannot be written.
 void Escriure_PDF(const Pagines& pagines, const QString& fitxer);
+// Paper and name of the job, before anything is asked about the printer.
+void Preparar_Impressora(const Pagines& pagines, QPrinter& impressora);
+// The pages that the printer's range tells. Raises 0x80004005 when the printer takes nothing.
 void Enviar_A_Impressora(const Pagines& pagines, QPrinter& impressora);
 
 // Asks what to do with the pages: print, look at them, save them as PDF, nothing.
 void Dialeg_Impressio(const Pagines& pagines, QWidget* pare);
-// The pages on the screen, with print and save.
-void Previsualitzar(const Pagines& pagines, QWidget* pare);
-// The system's print dialog, then the printer.
-void Demanar_Impressora(const Pagines& pagines, QWidget* pare);
-// Asks for a file and writes it.
-void Demanar_PDF(const Pagines& pagines, QWidget* pare);
+// Each is true when the pages were printed or saved.
+bool Previsualitzar(const Pagines& pagines, QWidget* pare);      // on the screen, with print and save
+bool Demanar_Impressora(const Pagines& pagines, QWidget* pare);  // the system's print dialog, then the printer
+bool Demanar_PDF(const Pagines& pagines, QWidget* pare);         // asks for a file and writes it

@@ -124,11 +124,25 @@ TEST_F(Combo_De_Clients, Shows_a_name_that_the_list_does_not_hold) {
   EXPECT_EQ(combo->Codi(), "9");
 }
 
+TEST(Camps, A_field_that_goes_with_its_window_is_not_left) {
+  int vegades = 0;
+  {
+    QWidget finestra;
+    auto* camp = new QLineEdit(&finestra);
+    En_Sortir(camp, [&] { ++vegades; });
+    finestra.show();
+    QApplication::setActiveWindow(&finestra);
+    camp->setFocus();
+    EXPECT_TRUE(camp->hasFocus());
+  }
+  EXPECT_EQ(vegades, 0);
+}
+
 TEST(Camps, Leaving_runs_before_entering_and_neither_runs_while_the_focus_is_kept) {
+  QStringList fets;
   QWidget finestra;
   QLineEdit a(&finestra);
   QLineEdit b(&finestra);
-  QStringList fets;
   En_Sortir(&a, [&] {
     fets << QStringLiteral("leaves a");
     if (a.text() == u"bad") Retenir_Focus(&a);
