@@ -118,7 +118,7 @@ std::vector<Control_Informe> Peu_D_Informe() {
 }
 
 Definicio_Informe Definir() {
-  Definicio_Informe definicio{"DR_ALBARA_VALORAT", {Mm(88.2), Mm(5.8), Mm(9), Mm(34)}, {}};
+  Definicio_Informe definicio{"DR_ALBARA_VALORAT", {Mm(88), Mm(5.5), Mm(9), Mm(34)}, {}};
   for (const auto& seccio : {Encapcalament(), Detall(), Peu_De_Pagina(), Peu_D_Informe()}) {
     definicio.controls.insert(definicio.controls.end(), seccio.begin(), seccio.end());
   }

@@ -92,7 +92,12 @@ void Editor_Document::Connectar() {
   connect(data_, &Selector_Data::Canviada, this, [this] { Guardar_Event([this] { Desar_Capcalera(); }); });
   connect(nom_client_, &Combo_Codi::Triat, this,
           [this] { Guardar_Event([this] { Canviar_Client(); }, [this] { Cancellar_Edicions(); }); });
-  connect(estat_, &QCheckBox::clicked, this, [this] { Guardar_Event([this] { Aplicar_Estat(); }); });
+  connect(estat_, &QCheckBox::clicked, this, [this] {
+    Guardar_Event([this] {
+      Aplicar_Estat();
+      Aplicar_Opcio();
+    });
+  });
   connect(opcions_, &Grup_Opcions::Triada, this, [this] { Aplicar_Opcio(); });
   const auto boto = [this](const char* nom, Dibuix dibuix, const std::function<void()>& rutina) {
     auto* control = Control_De_Nom<QPushButton>(QString::fromLatin1(nom));
@@ -374,7 +379,7 @@ void Editor_Document::Valorar() {
 }
 
 void Editor_Document::Imprimir(const char* proposit) {
-  Desar_Capcalera();
+  if (Dret() != "C") Desar_Capcalera();
   sessio.Crida_Document = std::string(descripcio_.tipus.formulari) + proposit;
   Imprimir_Document(descripcio_.tipus, numero_, sessio.Empresa_Actual, 0);
 }

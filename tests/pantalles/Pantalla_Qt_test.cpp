@@ -1,0 +1,64 @@
+#include "core/pantalla/Pantalla_Qt.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "core/pantalla/Instancia_Unica.h"
+#include "tests/pantalles/Base_Pantalles.h"
+
+namespace {
+
+void Teclejar_A_La_Cua(QWidget* camp) {
+  QCoreApplication::postEvent(camp, new QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a")));
+}
+
+}  // namespace
+
+TEST(Pantalla_Qt, What_is_typed_during_a_save_is_swallowed) {
+  Pantalla_Qt pantalla;
+  QLineEdit camp;
+  pantalla.Bloquejar_Entrada();
+  QTest::keyClicks(&camp, QStringLiteral("x"));
+  Teclejar_A_La_Cua(&camp);
+  pantalla.Alliberar_Entrada();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(camp.text(), QString());
+  QTest::keyClicks(&camp, QStringLiteral("y"));
+  EXPECT_EQ(camp.text(), QStringLiteral("y"));
+}
+
+TEST(Pantalla_Qt, Events_that_rules_let_run_leave_the_keys_for_later) {
+  Pantalla_Qt pantalla;
+  QLineEdit camp;
+  pantalla.Processar_Events();
+  Teclejar_A_La_Cua(&camp);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(camp.text(), QStringLiteral("a"));
+}
+
+TEST(Instancia_Unica, A_second_start_calls_the_first_one_and_stands_back) {
+  const QTemporaryDir carpeta;
+  const Instancia_Unica primera(carpeta.path());
+  QSignalSpy cridada(&primera, &Instancia_Unica::Cridada);
+  EXPECT_TRUE(primera.Es_La_Primera());
+  const Instancia_Unica segona(carpeta.path());
+  EXPECT_FALSE(segona.Es_La_Primera());
+  EXPECT_TRUE(cridada.count() > 0 || cridada.wait(2000));
+}
+
+TEST(Instancia_Unica, Another_data_folder_is_another_terminal) {
+  const QTemporaryDir carpeta;
+  const QTemporaryDir altra;
+  const Instancia_Unica primera(carpeta.path());
+  const Instancia_Unica segona(altra.path());
+  EXPECT_TRUE(primera.Es_La_Primera());
+  EXPECT_TRUE(segona.Es_La_Primera());
+}
+
+TEST(Instancia_Unica, A_folder_that_is_not_there_stops_nobody) {
+  const Instancia_Unica instancia(QStringLiteral("/no/such/folder"));
+  EXPECT_TRUE(instancia.Es_La_Primera());
+}
