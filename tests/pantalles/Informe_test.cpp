@@ -1,0 +1,298 @@
+// The report engine: pages, rows that grow, texts that give way, controls by their names.
+#include "output/informe/Informe.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+#include <algorithm>
+
+#include "core/dades/Error_Brollador.h"
+#include "tests/pantalles/Base_Pantalles.h"
+
+namespace {
+
+using enum Mena_Control;
+
+// A page of 15 rows of one line, and a footer as tall as three of them.
+constexpr int alcada_fila = 300;
+constexpr int files_per_pagina = 15;
+constexpr int alcada_capcalera = paper::alcada - 2 * paper::marge - files_per_pagina * alcada_fila - 400;
+
+const Definicio_Informe& Informe_De_Prova() {
+  static const Definicio_Informe definicio{
+      "DR_PROVA",
+      {alcada_capcalera, alcada_fila, 400, 3 * alcada_fila},
+      {
+          {u"L_TITOL"_qs, Seccio::Encapcalament, Etiqueta, {0, 0, 3000, 300}, {}, {}, {}, u"Títol"_qs},
+          {u"L_NOTA"_qs, Seccio::Encapcalament, Etiqueta, {0, 400, 3000, 480}, {}, {}, Ajust::Partir},
+          {u"IMG_LOGO"_qs, Seccio::Encapcalament, Imatge, {5000, 0, 2000, 1000}},
+          {u"R_TITOL"_qs, Seccio::Encapcalament, Ratlla, {0, 350, 5000, 10}},
+          {u"TXT_DESCRIPCIO_AL"_qs, Seccio::Detall, Camp, {0, 0, 4000, 230}, {}, {}, Ajust::Creixer},
+          {u"TXT_TOTAL_IMPORT_AL"_qs, Seccio::Detall, Camp, {5000, 0, 1000, 230}, {}, Costat::Dreta},
+          {u"L_PAGINA"_qs, Seccio::Peu_De_Pagina, Comptador, {0, 0, 2000, 230}, {}, {}, {}, u"%p/%P"_qs},
+          {u"L_PEU"_qs, Seccio::Peu_D_Informe, Etiqueta, {0, 0, 3000, 230}, {}, {}, {}, u"Peu"_qs},
+      }};
+  return definicio;
+}
+
+std::vector<Text_Posat> Textos_De_Pagina(const Pagina& pagina) {
+  std::vector<Text_Posat> textos;
+  for (const auto& element : pagina) {
+    if (const auto* text = std::get_if<Text_Posat>(&element)) textos.push_back(*text);
+  }
+  return textos;
+}
+
+QStringList Paraules(const Pagina& pagina) {
+  QStringList paraules;
+  for (const auto& text : Textos_De_Pagina(pagina)) paraules << text.text;
+  return paraules;
+}
+
+Text_Posat Text_De(const Pagina& pagina, const QString& buscat) {
+  for (const auto& text : Textos_De_Pagina(pagina)) {
+    if (text.text == buscat) return text;
+  }
+  ADD_FAILURE() << "not on the page: " << buscat.toStdString();
+  return {};
+}
+
+double Amplada_De(const Text_Posat& text) {
+  return Amplada(text.text, text.lletra);
+}
+
+const QString descripcio_llarga = QStringLiteral("paraula ").repeated(60).trimmed();
+
+class Informe_Prova : public Base_Pantalles {
+ protected:
+  void Posar_Fila(const std::string& descripcio, double import = 1) {
+    Recordset rs("SELECT * FROM ALBARALIN_VALORAT_IMPR", sessio.Connexio_Local, Bloqueig::Optimista);
+    rs.AddNew();
+    rs.Set("LIN_AL", ++linia_);
+    rs.Set("DESCRIPCIO_AL", descripcio);
+    rs.Set("TOTAL_IMPORT_AL", import);
+    rs.Update();
+  }
+  void Posar_Files(int quantes) {
+    for (int i = 1; i <= quantes; ++i) Posar_Fila("fila " + std::to_string(i));
+  }
+  std::vector<Pagina> Maquetar() {
+    Recordset rs("SELECT * FROM ALBARALIN_VALORAT_IMPR ORDER BY LIN_AL", sessio.Connexio_Local);
+    return informe.Maquetar(rs);
+  }
+
+  Informe informe{Informe_De_Prova()};
+
+ private:
+  int linia_ = 0;
+};
+
+}  // namespace
+
+TEST_F(Informe_Prova, NoRowsGiveNoPages) {
+  EXPECT_TRUE(Maquetar().empty());
+}
+
+TEST_F(Informe_Prova, RowsFillAPageAndGoOnOnTheNext) {
+  Posar_Files(files_per_pagina + 2);
+  const auto pagines = Maquetar();
+  ASSERT_EQ(pagines.size(), 2U);
+  EXPECT_TRUE(Paraules(pagines[0]).contains(u"fila 15"_qs));
+  EXPECT_FALSE(Paraules(pagines[0]).contains(u"fila 16"_qs));
+  EXPECT_TRUE(Paraules(pagines[1]).contains(u"fila 16"_qs));
+}
+
+TEST_F(Informe_Prova, HeaderAndCounterStandOnEveryPage) {
+  Posar_Files(2 * files_per_pagina + 1);
+  const auto pagines = Maquetar();
+  ASSERT_EQ(pagines.size(), 3U);
+  for (std::size_t i = 0; i < pagines.size(); ++i) {
+    EXPECT_TRUE(Paraules(pagines[i]).contains(u"Títol"_qs));
+    EXPECT_TRUE(Paraules(pagines[i]).contains(QString::number(i + 1) + u"/3"_qs));
+  }
+}
+
+TEST_F(Informe_Prova, TheReportFooterStandsOnceAtTheBottomOfTheLastPage) {
+  Posar_Files(files_per_pagina + 1);
+  const auto pagines = Maquetar();
+  EXPECT_FALSE(Paraules(pagines[0]).contains(u"Peu"_qs));
+  const double dalt = paper::alcada - paper::marge - 400 - 3 * alcada_fila;
+  EXPECT_NEAR(Text_De(pagines[1], u"Peu"_qs).base.y(), dalt + Base_De_Linia({}), 1);
+}
+
+TEST_F(Informe_Prova, AFooterThatDoesNotFitTakesTheLastRowAlong) {
+  Posar_Files(files_per_pagina - 2);
+  const auto pagines = Maquetar();
+  ASSERT_EQ(pagines.size(), 2U);
+  EXPECT_TRUE(Paraules(pagines[0]).contains(u"fila 12"_qs));
+  EXPECT_FALSE(Paraules(pagines[0]).contains(u"fila 13"_qs));
+  EXPECT_TRUE(Paraules(pagines[1]).contains(u"fila 13"_qs));
+  EXPECT_TRUE(Paraules(pagines[1]).contains(u"Peu"_qs));
+}
+
+TEST_F(Informe_Prova, AFooterThatJustFitsStaysOnThePage) {
+  Posar_Files(files_per_pagina - 3);
+  EXPECT_EQ(Maquetar().size(), 1U);
+}
+
+TEST_F(Informe_Prova, ALongDescriptionWrapsAndPushesTheNextRowDown) {
+  Posar_Fila("curta");
+  Posar_Fila(descripcio_llarga.toStdString());
+  Posar_Fila("darrera");
+  const auto pagina = Maquetar().at(0);
+  std::vector<Text_Posat> linies;
+  for (const auto& text : Textos_De_Pagina(pagina)) {
+    if (text.text.startsWith(u"paraula")) linies.push_back(text);
+  }
+  ASSERT_GT(linies.size(), 3U);
+  int paraules = 0;
+  for (const auto& linia : linies) {
+    EXPECT_LE(Amplada_De(linia), 4000);
+    paraules += static_cast<int>(linia.text.count(u"paraula"));
+  }
+  EXPECT_EQ(paraules, 60);
+  EXPECT_GE(Text_De(pagina, u"darrera"_qs).base.y() - linies.back().base.y(), 200);
+}
+
+TEST_F(Informe_Prova, ARowThatDoesNotFitGoesWholeToTheNextPage) {
+  Posar_Files(files_per_pagina - 1);
+  Posar_Fila(descripcio_llarga.toStdString());
+  const auto pagines = Maquetar();
+  ASSERT_EQ(pagines.size(), 2U);
+  EXPECT_EQ(Paraules(pagines[0]).filter(u"paraula"_qs).size(), 0);
+}
+
+TEST_F(Informe_Prova, ARowTallerThanAPageIsDividedAndLosesNothing) {
+  Posar_Fila(descripcio_llarga.repeated(20).toStdString());
+  const auto pagines = Maquetar();
+  ASSERT_GT(pagines.size(), 1U);
+  int paraules = 0;
+  for (const auto& pagina : pagines) {
+    for (const auto& text : Textos_De_Pagina(pagina)) {
+      paraules += static_cast<int>(text.text.count(u"paraula"));
+      EXPECT_LT(text.base.y(), paper::alcada - paper::marge);
+    }
+  }
+  EXPECT_EQ(paraules, 20 * 60);
+}
+
+TEST_F(Informe_Prova, AWordLongerThanTheColumnIsBrokenInsideIt) {
+  Posar_Fila(std::string(200, 'x'));
+  for (const auto& text : Textos_De_Pagina(Maquetar().at(0))) {
+    if (text.text.startsWith(u"xx")) EXPECT_LE(Amplada_De(text), 4000);
+  }
+  EXPECT_GT(Paraules(Maquetar().at(0)).filter(u"xx"_qs).size(), 1);
+}
+
+TEST_F(Informe_Prova, ALabelTooLongGrowsSmallerAndThenIsCut) {
+  Posar_Files(1);
+  informe.Caption(u"L_TITOL"_qs, u"Construccions i Reformes del Vallès"_qs);
+  const auto petit = Text_De(Maquetar().at(0), u"Construccions i Reformes del Vallès"_qs);
+  EXPECT_LT(petit.lletra.pixelSize(), Lletra({}).pixelSize());
+  EXPECT_LE(Amplada_De(petit), 3000);
+
+  informe.Caption(u"L_TITOL"_qs, descripcio_llarga);
+  const auto tallat = Paraules(Maquetar().at(0)).filter(u"…"_qs);
+  ASSERT_EQ(tallat.size(), 1);
+}
+
+TEST_F(Informe_Prova, ALabelThatWrapsKeepsToItsPlace) {
+  Posar_Files(1);
+  informe.Caption(u"L_NOTA"_qs, descripcio_llarga);
+  const auto linies = Paraules(Maquetar().at(0)).filter(u"paraula"_qs);
+  ASSERT_EQ(linies.size(), 2);
+  EXPECT_TRUE(linies[1].endsWith(u"…"));
+}
+
+TEST_F(Informe_Prova, FiguresStandAtTheRightEdgeUnderTheirFormat) {
+  Posar_Fila("una", 1234.5);
+  Posar_Fila("dues", 2);
+  informe.Data_Format(u"TXT_TOTAL_IMPORT_AL"_qs, "#,##0.00;; ");
+  const auto pagina = Maquetar().at(0);
+  for (const auto& import : {u"1.234,50"_qs, u"2,00"_qs}) {
+    const auto text = Text_De(pagina, import);
+    EXPECT_NEAR(text.base.x() + Amplada_De(text), paper::marge + 6000, 1);
+  }
+}
+
+TEST_F(Informe_Prova, AFigureTooWideIsDrawnSmallerAndNeverCut) {
+  Posar_Fila("una", 123456789012.34);
+  informe.Data_Format(u"TXT_TOTAL_IMPORT_AL"_qs, "#,##0.00;; ");
+  const auto text = Text_De(Maquetar().at(0), u"123.456.789.012,34"_qs);
+  EXPECT_LE(Amplada_De(text), 1000);
+}
+
+TEST_F(Informe_Prova, ZeroIsBlankUnderThePrintedFormat) {
+  Posar_Fila("una", 0);
+  informe.Data_Format(u"TXT_TOTAL_IMPORT_AL"_qs, "#,##0.00;; ");
+  EXPECT_EQ(Paraules(Maquetar().at(0)), (QStringList{u"Títol"_qs, u"una"_qs, u"Peu"_qs, u"1/1"_qs}));
+}
+
+TEST_F(Informe_Prova, AHiddenControlIsNotDrawn) {
+  Posar_Fila("una", 5);
+  informe.Visible(u"TXT_TOTAL_IMPORT_AL"_qs, false);
+  informe.Visible(u"L_TITOL"_qs, false);
+  EXPECT_EQ(Paraules(Maquetar().at(0)), (QStringList{u"una"_qs, u"Peu"_qs, u"1/1"_qs}));
+}
+
+TEST_F(Informe_Prova, TopMovesAControlInsideItsSection) {
+  Posar_Files(1);
+  informe.Top(u"L_TITOL"_qs, 700);
+  EXPECT_NEAR(Text_De(Maquetar().at(0), u"Títol"_qs).base.y(), paper::marge + 700 + Base_De_Linia({}), 1);
+}
+
+TEST_F(Informe_Prova, APictureKeepsItsShapeInItsPlaceAndAMissingOneLeavesItEmpty) {
+  Posar_Files(1);
+  const auto imatges = [&] {
+    std::vector<Imatge_Posada> posades;
+    for (const auto& element : Maquetar().at(0)) {
+      if (const auto* imatge = std::get_if<Imatge_Posada>(&element)) posades.push_back(*imatge);
+    }
+    return posades;
+  };
+  informe.Picture(u"IMG_LOGO"_qs, u"/no/hi/es.png"_qs);
+  EXPECT_TRUE(imatges().empty());
+
+  const QTemporaryDir carpeta;
+  QImage logo(40, 40, QImage::Format_RGB32);
+  logo.fill(Qt::red);
+  ASSERT_TRUE(logo.save(carpeta.filePath(u"logo.png"_qs)));
+  informe.Picture(u"IMG_LOGO"_qs, carpeta.filePath(u"logo.png"_qs));
+  ASSERT_EQ(imatges().size(), 1U);
+  EXPECT_EQ(imatges()[0].lloc, QRectF(paper::marge + 5000, paper::marge, 1000, 1000));
+}
+
+TEST_F(Informe_Prova, ControlsAreFoundWhateverTheCaseOfTheirName) {
+  informe.Caption(u"l_titol"_qs, u"Un altre"_qs);
+  EXPECT_EQ(informe.Caption(u"L_TITOL"_qs), u"Un altre"_qs);
+}
+
+TEST_F(Informe_Prova, AnUnknownControlRaises) {
+  const auto numero = [&](auto accio) {
+    try {
+      accio();
+    } catch (const Error_Brollador& error) {
+      return error.Numero();
+    }
+    return 0;
+  };
+  const QString cap = u"L_CAP"_qs;
+  EXPECT_EQ(numero([&] { informe.Caption(cap, {}); }), errors::camp_no_trobat);
+  EXPECT_EQ(numero([&] { informe.Visible(cap, true); }), errors::camp_no_trobat);
+  EXPECT_EQ(numero([&] { informe.Top(cap, 0); }), errors::camp_no_trobat);
+  EXPECT_EQ(numero([&] { informe.Data_Format(cap, ""); }), errors::camp_no_trobat);
+  EXPECT_EQ(numero([&] { informe.Picture(cap, {}); }), errors::camp_no_trobat);
+}
+
+TEST_F(Informe_Prova, CaptionsComeFromTheTextsByControlAndSection) {
+  const auto posar = [](const char* control, const char* text) {
+    sessio.Connexio_Local.Execute(
+        "INSERT INTO TEXTS (F_OBJECT, F_LANGUAGE, F_CONTROL, F_PROPERTY, F_TEXT) VALUES('DR_PROVA', 2, " +
+        Text_SQL(control) + ", 'CAPTION', " + Text_SQL(text) + ")");
+  };
+  posar("L_TITOL.0", "Title");
+  posar("L_PEU.0", "a control of another section");
+  sessio.Idioma_Actual = 2;
+  informe.Traduir();
+  EXPECT_EQ(informe.Caption(u"L_TITOL"_qs), u"Title"_qs);
+  EXPECT_EQ(informe.Caption(u"L_PEU"_qs), u"Peu"_qs);
+}
