@@ -16,6 +16,7 @@ constexpr Estil_Lletra dades_empresa{9, false, Tinta::Grisa};
 constexpr Estil_Lletra titol{8, false, Tinta::Grisa};
 constexpr Estil_Lletra titol_columna{8.5, true};
 constexpr Estil_Lletra text{9.5};
+constexpr Estil_Lletra text_linia{9};
 constexpr Estil_Lletra nom_client{10.5, true};
 constexpr Estil_Lletra numero{14, true};
 constexpr Estil_Lletra clara{0, false, Tinta::Clara};
@@ -55,32 +56,32 @@ std::vector<Control_Informe> Encapcalament() {
       {u"L_DIRECCIO"_qs, s, Etiqueta, Lloc(90, 48.3, 90, 4), text},
       {u"L_POBLACIO"_qs, s, Etiqueta, Lloc(90, 53.2, 90, 4), text},
 
-      {u"L_OBSR"_qs, s, Etiqueta, Lloc(0, 65.4, 22, 4), titol, Esquerra, Encongir, u"Observacions"_qs},
-      {u"L_TXT_OBSR"_qs, s, Etiqueta, Lloc(23, 65, 157, 12.4), text, Esquerra, Partir},
+      {u"L_OBSR"_qs, s, Etiqueta, Lloc(0, 60.4, 22, 4), titol, Esquerra, Encongir, u"Observacions"_qs},
+      {u"L_TXT_OBSR"_qs, s, Etiqueta, Lloc(23, 60, 157, 12.4), text, Esquerra, Partir},
 
-      {u"R_TITOLS_DALT"_qs, s, Ratlla, Ratlla_A(0, 80, 180), fosca},
-      {u"L_DESCRIPCIO_AL"_qs, s, Etiqueta, Lloc(0, 81.6, 92, 4), titol_columna, Esquerra, Encongir, u"Descripció"_qs},
-      {u"L_UNITATS_AL"_qs, s, Etiqueta, Lloc(95, 81.6, 20, 4), titol_columna, Dreta, Encongir, u"Unitats"_qs},
-      {u"L_PREU_UNITARI_AL"_qs, s, Etiqueta, Lloc(117, 81.6, 23, 4), titol_columna, Dreta, Encongir, u"Preu €"_qs},
-      {u"L_DTE_AL"_qs, s, Etiqueta, Lloc(141, 81.6, 14, 4), titol_columna, Dreta, Encongir, u"Dte %"_qs},
-      {u"L_TOTAL_IMPORT_AL"_qs, s, Etiqueta, Lloc(156, 81.6, 24, 4), titol_columna, Dreta, Encongir, u"Import €"_qs},
-      {u"R_TITOLS_BAIX"_qs, s, Ratlla, Ratlla_A(0, 86.6, 180), fosca},
+      {u"R_TITOLS_DALT"_qs, s, Ratlla, Ratlla_A(0, 74, 180), fosca},
+      {u"L_DESCRIPCIO_AL"_qs, s, Etiqueta, Lloc(0, 75.5, 92, 4), titol_columna, Esquerra, Encongir, u"Descripció"_qs},
+      {u"L_UNITATS_AL"_qs, s, Etiqueta, Lloc(95, 75.5, 20, 4), titol_columna, Dreta, Encongir, u"Unitats"_qs},
+      {u"L_PREU_UNITARI_AL"_qs, s, Etiqueta, Lloc(117, 75.5, 23, 4), titol_columna, Dreta, Encongir, u"Preu"_qs},
+      {u"L_DTE_AL"_qs, s, Etiqueta, Lloc(141, 75.5, 14, 4), titol_columna, Dreta, Encongir, u"Dte"_qs},
+      {u"L_TOTAL_IMPORT_AL"_qs, s, Etiqueta, Lloc(156, 75.5, 24, 4), titol_columna, Dreta, Encongir, u"Import"_qs},
+      {u"R_TITOLS_BAIX"_qs, s, Ratlla, Ratlla_A(0, 80.2, 180), fosca},
   };
 }
 
 std::vector<Control_Informe> Detall() {
   constexpr auto s = Seccio::Detall;
   return {
-      {u"TXT_DESCRIPCIO_AL"_qs, s, Camp, Lloc(0, 1, 92, 4), text, Esquerra, Creixer},
-      {u"TXT_UNITATS_AL"_qs, s, Camp, Lloc(95, 1, 20, 4), text, Dreta},
-      {u"TXT_PREU_UNITARI_AL"_qs, s, Camp, Lloc(117, 1, 23, 4), text, Dreta},
-      {u"TXT_DTE_AL"_qs, s, Camp, Lloc(141, 1, 14, 4), text, Dreta},
-      {u"TXT_TOTAL_IMPORT_AL"_qs, s, Camp, Lloc(156, 1, 24, 4), text, Dreta},
+      {u"TXT_DESCRIPCIO_AL"_qs, s, Camp, Lloc(0, 0.6, 92, 4), text_linia, Esquerra, Creixer},
+      {u"TXT_UNITATS_AL"_qs, s, Camp, Lloc(95, 0.6, 20, 4), text_linia, Dreta},
+      {u"TXT_PREU_UNITARI_AL"_qs, s, Camp, Lloc(117, 0.6, 23, 4), text_linia, Dreta},
+      {u"TXT_DTE_AL"_qs, s, Camp, Lloc(141, 0.6, 14, 4), text_linia, Dreta},
+      {u"TXT_TOTAL_IMPORT_AL"_qs, s, Camp, Lloc(156, 0.6, 24, 4), text_linia, Dreta},
   };
 }
 
 std::vector<Control_Informe> Peu_De_Pagina() {
-  return {{u"L_PAGINA"_qs, Seccio::Peu_De_Pagina, Comptador, Lloc(140, 5, 40, 4), titol, Dreta, Encongir, u"%p/%P"_qs}};
+  return {{u"L_PAGINA"_qs, Seccio::Peu_De_Pagina, Comptador, Lloc(140, 3, 40, 4), titol, Dreta, Encongir, u"%p/%P"_qs}};
 }
 
 struct Columna_Peu {
@@ -90,8 +91,8 @@ struct Columna_Peu {
   double ample;
 };
 constexpr Columna_Peu columnes_peu[] = {
-    {u"L_BASE", u"Base €", 0, 24},   {u"L_IVA_PORC", u"% IVA", 25, 12}, {u"L_IVA_IMP", u"IVA €", 38, 21},
-    {u"L_RE_PORC", u"% RE", 60, 12}, {u"L_RE_IMP", u"RE €", 73, 20},    {u"L_IMPORT_BRUT", u"Import €", 94, 25},
+    {u"L_BASE", u"Base", 0, 24},     {u"L_IVA_PORC", u"% IVA", 25, 12}, {u"L_IVA_IMP", u"IVA", 38, 21},
+    {u"L_RE_PORC", u"% RE", 60, 12}, {u"L_RE_IMP", u"RE", 73, 20},      {u"L_IMPORT_BRUT", u"Import", 94, 25},
 };
 
 // The tax rows on the left, what they come to on the right.
@@ -99,8 +100,8 @@ std::vector<Control_Informe> Peu_D_Informe() {
   constexpr auto s = Seccio::Peu_D_Informe;
   std::vector<Control_Informe> controls{
       {u"R_PEU"_qs, s, Ratlla, Ratlla_A(0, 4, 180), fosca},
-      {u"L_NETO"_qs, s, Etiqueta, Lloc(132, 6.4, 18, 4), titol, Esquerra, Encongir, u"Net €"_qs},
-      {u"L_NETO_IMP"_qs, s, Etiqueta, Lloc(150, 6, 30, 4), text, Dreta},
+      {u"L_NETO"_qs, s, Etiqueta, Lloc(132, 6.4, 18, 4), titol, Esquerra, Encongir, u"Net"_qs},
+      {u"L_NETO_IMP"_qs, s, Etiqueta, Lloc(150, 6, 30, 4), text_linia, Dreta},
       {u"R_TOTAL"_qs, s, Ratlla, Ratlla_A(132, 25.5, 48), fosca},
       {u"L_IMPORT_TOTAL"_qs, s, Etiqueta, Lloc(132, 28.3, 18, 5), nom_client, Esquerra, Encongir, u"Total €"_qs},
       {u"L_IMPORT_TOTAL_IMP"_qs, s, Etiqueta, Lloc(150, 27.2, 30, 6), numero, Dreta},
@@ -111,14 +112,14 @@ std::vector<Control_Informe> Peu_D_Informe() {
         {base, s, Etiqueta, Lloc(x, 6.4, ample, 4), titol, Dreta, Encongir, QString::fromUtf16(caption)});
     for (int fila = 1; fila <= files_peu; ++fila) {
       controls.push_back(
-          {base + u'_' + QString::number(fila), s, Etiqueta, Lloc(x, 6.6 + 5 * fila, ample, 4), text, Dreta});
+          {base + u'_' + QString::number(fila), s, Etiqueta, Lloc(x, 6.6 + 5 * fila, ample, 4), text_linia, Dreta});
     }
   }
   return controls;
 }
 
 Definicio_Informe Definir() {
-  Definicio_Informe definicio{"DR_ALBARA_VALORAT", {Mm(88), Mm(5.5), Mm(9), Mm(34)}, {}};
+  Definicio_Informe definicio{"DR_ALBARA_VALORAT", {Mm(81.4), Mm(4.7), Mm(7), Mm(33.4)}, {}};
   for (const auto& seccio : {Encapcalament(), Detall(), Peu_De_Pagina(), Peu_D_Informe()}) {
     definicio.controls.insert(definicio.controls.end(), seccio.begin(), seccio.end());
   }

@@ -129,6 +129,7 @@ void Editor_Document::Carregar() {
             Bloqueig::Pessimista);
   Obrir_Recordsets();
   Mostrar_Capcalera();
+  nova_->hide();  // until what the option asks for is there
   entrada_->Netejar();
   Aplicar_Opcio();
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <chrono>
 #include <functional>
 
 #include "core/M_Funcions_Comuns.h"
@@ -18,7 +18,7 @@ namespace {
 constexpr int clients = 120;
 constexpr int proveidors = 25;
 constexpr int articles = 600;
-constexpr int dies_d_albarans = 120;
+constexpr int dies_feiners_d_albarans = 86;  // four months
 constexpr const char* empresa = "B17000017";
 constexpr const char* nom_empresa = "Subministraments Riudaura SL";
 
@@ -268,39 +268,53 @@ void Fer_Albara(Sort& sort, const std::vector<std::string>& nifs) {
   capcalera.Update();
 }
 
+bool Es_Feiner(const Data_Hora& dia) {
+  using namespace std::chrono;
+  const year_month_day data(year(dia.any), month(static_cast<unsigned>(dia.mes)), day(static_cast<unsigned>(dia.dia)));
+  return weekday(sys_days(data)).iso_encoding() < 6;
+}
+
+// The last working days up to today, the oldest first.
+std::vector<Data_Hora> Dies_Feiners() {
+  const Data_Hora avui = Avui();
+  std::vector<Data_Hora> dies;
+  for (int enrere = 0; std::ssize(dies) < dies_feiners_d_albarans; ++enrere) {
+    const Data_Hora dia = Data_Serial(avui.any, avui.mes, avui.dia - enrere);
+    if (Es_Feiner(dia)) dies.push_back(dia);
+  }
+  std::reverse(dies.begin(), dies.end());
+  return dies;
+}
+
 // A few notes every working day of the last months.
 void Fer_Albarans(Sort& sort) {
   std::vector<std::string> nifs;
   for (Recordset rs("SELECT NIF_CLI FROM CLIENTS ORDER BY NIF_CLI", sessio.Connexio_Comuna); !rs.Eof(); rs.MoveNext()) {
     nifs.push_back(rs["NIF_CLI"].Text());
   }
-  const Data_Hora avui = Avui();
-  for (int dia = dies_d_albarans; dia >= 0; --dia) {
-    if (dia % 7 >= 5) continue;
-    Fixar_Avui(Data_Serial(avui.any, avui.mes, avui.dia - dia));
+  for (const Data_Hora& dia : Dies_Feiners()) {
+    Fixar_Avui(dia);
     for (int quants = 2 + sort.Fins(3); quants > 0; --quants) Fer_Albara(sort, nifs);
   }
 }
 
-void En_Una_Transaccio(const std::function<void()>& feina) {
+void Fer_Any(const Opcions_Installacio& opcions) {
+  const Sessio_De_Demostracio feina(opcions);
+  Sort sort;
   Transaccio transaccio;
-  feina();
+  Fer_Empresa();
+  Fer_Taules_De_Referencia();
+  Fer_Clients(sort);
+  Fer_Proveidors(sort);
+  Fer_Articles(sort);
+  Entrar_Existencies(sort);
+  Fer_Albarans(sort);
   transaccio.Confirmar();
 }
 
 }  // namespace
 
 void Crear_Demostracio(const Opcions_Installacio& opcions) {
-  Crear_Buida(opcions, {.nif = empresa, .rao_social = nom_empresa, .contrasenya = ""});
-  const Sessio_De_Demostracio feina(opcions);
-  Sort sort;
-  En_Una_Transaccio([&] {
-    Fer_Empresa();
-    Fer_Taules_De_Referencia();
-    Fer_Clients(sort);
-    Fer_Proveidors(sort);
-    Fer_Articles(sort);
-    Entrar_Existencies(sort);
-    Fer_Albarans(sort);
-  });
+  const Primera_Empresa riudaura{.nif = empresa, .rao_social = nom_empresa, .contrasenya = ""};
+  Crear_Buida(opcions, riudaura, [&] { Fer_Any(opcions); });
 }

@@ -44,14 +44,21 @@ constexpr const char* files_de_base[] = {
 constexpr const char* drets[] = {"P_Clients",    "P_Proveidors",   "P_Articles", "P_Usuaris",  "P_CP",
                                  "P_Venciments", "P_Pressupostos", "P_Comandes", "P_Albarans", "P_Factures"};
 
+void Exigir_Lliure(const fs::path& cami) {
+  if (fs::exists(cami)) Llancar_Error(errors::fitxer_existent, "brollador-install", cami.string());
+}
+
 // What has been made so far; taken away again unless the work is told done.
 class Obra {
  public:
+  Obra() = default;
   ~Obra() {
     if (acabada_) return;
     std::error_code ignorat;  // already failing: what cannot be taken away stays
     for (auto it = fets_.rbegin(); it != fets_.rend(); ++it) fs::remove(*it, ignorat);
   }
+  Obra(const Obra&) = delete;
+  Obra& operator=(const Obra&) = delete;
   void Carpeta(const fs::path& cami) {
     for (fs::path prefix = cami; !prefix.empty() && !fs::exists(prefix); prefix = prefix.parent_path()) {
       pendents_.push_back(prefix);
@@ -61,7 +68,16 @@ class Obra {
       fets_.push_back(pendents_.back());
     }
   }
-  void Fitxer(const fs::path& cami) { fets_.push_back(cami); }
+  // A file that is about to be made, so that half a file goes too.
+  void Fitxer(const fs::path& cami) {
+    Exigir_Lliure(cami);
+    fets_.push_back(cami);
+  }
+  void Base_De_Dades(const std::string& adreca) {
+    Fitxer(adreca);
+    for (const char* companyia : {"-journal", "-edicions"}) fets_.emplace_back(adreca + companyia);
+    Crear_Base_Dades(adreca);
+  }
   void Acabada() { acabada_ = true; }
 
  private:
@@ -82,18 +98,26 @@ void En_Transaccio(Connexio& connexio, const std::function<void()>& feina) {
   }
 }
 
-void Exigir_Lliure(const fs::path& cami) {
-  if (fs::exists(cami)) Llancar_Error(errors::fitxer_existent, "brollador-install", cami.string());
+// Brollador.ini holds the address between quotes, on one line.
+void Escriure_Ini(const fs::path& ini, const std::string& adreca) {
+  std::ofstream fitxer(ini);
+  fitxer << '"' << adreca << "\"\n";
+  if (!fitxer.flush()) throw Error_Brollador(errors::general, "brollador-install", ini.string());
+}
+
+void Exigir_Adreca_Escrivible(const std::string& adreca) {
+  if (adreca.find_first_of("\"\r\n") == std::string::npos) return;
+  throw Error_Brollador(errors::general, "brollador-install", "a path cannot hold quotes or line breaks: " + adreca);
 }
 
 void Crear_Carpeta_Dades(const Opcions_Installacio& opcions, Obra& obra) {
   const fs::path carpeta(opcions.carpeta);
+  Exigir_Adreca_Escrivible(Adreca_Compartida(opcions));
   Exigir_Lliure(carpeta / "Brollador.ini");
   Exigir_Lliure(carpeta / "dadeslocals.db");
   for (const auto& cami : {carpeta, carpeta / "copia", carpeta / "Temp"}) obra.Carpeta(cami);
   const std::string locals = carpeta / "dadeslocals.db";
-  Crear_Base_Dades(locals);
-  obra.Fitxer(locals);
+  obra.Base_De_Dades(locals);
   Connexio local;
   local.Open(locals);
   En_Transaccio(local, [&] {
@@ -102,9 +126,7 @@ void Crear_Carpeta_Dades(const Opcions_Installacio& opcions, Obra& obra) {
   });
   const fs::path ini = carpeta / "Brollador.ini";
   obra.Fitxer(ini);
-  std::ofstream fitxer(ini);
-  fitxer << '"' << Adreca_Compartida(opcions) << "\"\n";
-  if (!fitxer.flush()) throw Error_Brollador(errors::general, "brollador-install", ini.string());
+  Escriure_Ini(ini, Adreca_Compartida(opcions));
 }
 
 // A company that charges VAT, and the administrator who works in it.
@@ -128,8 +150,7 @@ void Afegir_Empresa(Connexio& comuna, const Primera_Empresa& empresa) {
 
 void Crear_Compartida(const Opcions_Installacio& opcions, const Primera_Empresa& empresa, bool de_base, Obra& obra) {
   const std::string adreca = Adreca_Compartida(opcions);
-  Crear_Base_Dades(adreca);
-  obra.Fitxer(adreca);
+  obra.Base_De_Dades(adreca);
   Connexio comuna;
   comuna.Open(adreca);
   En_Transaccio(comuna, [&] {
@@ -142,17 +163,22 @@ void Crear_Compartida(const Opcions_Installacio& opcions, const Primera_Empresa&
   });
 }
 
-void Crear(const Opcions_Installacio& opcions, const Primera_Empresa& empresa, bool de_base) {
+void Crear(const Opcions_Installacio& opcions, const Primera_Empresa& empresa, bool de_base,
+           const std::function<void()>& despres = {}) {
   Obra obra;
   Crear_Carpeta_Dades(opcions, obra);
   Crear_Compartida(opcions, empresa, de_base, obra);
+  if (despres) despres();
   obra.Acabada();
 }
 
 }  // namespace
 
 std::string Adreca_Compartida(const Opcions_Installacio& opcions) {
-  return opcions.compartida.empty() ? opcions.carpeta + "/comuna.db" : opcions.compartida;
+  if (opcions.compartida.find("://") != std::string::npos) return opcions.compartida;
+  const fs::path cami =
+      opcions.compartida.empty() ? fs::path(opcions.carpeta) / "comuna.db" : fs::path(opcions.compartida);
+  return fs::absolute(cami).string();
 }
 
 void Crear_Base(const Opcions_Installacio& opcions) {
@@ -163,13 +189,14 @@ void Crear_Base(const std::string& carpeta, const std::string& compartida) {
   Crear_Base(Opcions_Installacio{.carpeta = carpeta, .compartida = compartida});
 }
 
-void Crear_Buida(const Opcions_Installacio& opcions, const Primera_Empresa& empresa) {
-  Crear(opcions, empresa, false);
+void Crear_Buida(const Opcions_Installacio& opcions, const Primera_Empresa& empresa,
+                 const std::function<void()>& despres) {
+  Crear(opcions, empresa, false, despres);
 }
 
 void Crear_Terminal(const Opcions_Installacio& opcions) {
   Connexio comuna;
-  comuna.Open(opcions.compartida);  // it must be there and sound before a terminal points at it
+  comuna.Open(Adreca_Compartida(opcions));  // it must be there and sound before a terminal points at it
   Obra obra;
   Crear_Carpeta_Dades(opcions, obra);
   obra.Acabada();

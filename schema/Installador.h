@@ -3,13 +3,14 @@
 // what it had made is taken away again.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/dades/Connexio.h"
 
 struct Opcions_Installacio {
   std::string carpeta;     // data folder: Brollador.ini, dadeslocals.db, copia, Temp
-  std::string compartida;  // address of the shared database; empty: a file in the data folder
+  std::string compartida;  // address of the shared database; empty: comuna.db in the data folder
 };
 
 // The base installation: one company, the administrator without a password, and the smallest reference tables.
@@ -22,12 +23,14 @@ struct Primera_Empresa {
   std::string rao_social;
   std::string contrasenya;
 };
-void Crear_Buida(const Opcions_Installacio& opcions, const Primera_Empresa& empresa);
+// `despres`: work that belongs to the installation; when it raises, nothing of it all is left.
+void Crear_Buida(const Opcions_Installacio& opcions, const Primera_Empresa& empresa,
+                 const std::function<void()>& despres = {});
 
 // A further terminal of an office: data folder and local database on a shared database that exists.
 void Crear_Terminal(const Opcions_Installacio& opcions);
 
-// Fills in the shared address of the options when none was given.
+// The shared address of the options, as Brollador.ini holds it: a whole path whatever folder the program starts in.
 std::string Adreca_Compartida(const Opcions_Installacio& opcions);
 
 // Pieces, for whoever builds on an installation that is under way.

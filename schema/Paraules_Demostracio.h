@@ -34,7 +34,7 @@ inline constexpr std::array noms = {"Montserrat", "Jordi", "Núria",  "Àngels",
 inline constexpr std::array oficis = {"Fusteria",    "Construccions", "Instal·lacions", "Jardineria",
                                       "Lampisteria", "Pintures",      "Reformes",       "Serralleria",
                                       "Restaurant",  "Tallers",       "Excavacions",    "Electricitat"};
-inline constexpr std::array carrers = {"Carrer Major",     "Carrer de la Font", "Passeig de l´Onyar", "Carrer Nou",
+inline constexpr std::array carrers = {"Carrer Major",     "Carrer de la Font", "Passeig de l’Onyar", "Carrer Nou",
                                        "Avinguda del Pla", "Plaça del Mercat",  "Carrer dels Horts",  "Camí Ral"};
 inline constexpr std::array acabats = {"galvanitzat", "inoxidable", "lacat blanc", "natural", "reforçat", "lleuger"};
 inline constexpr std::array marques = {"Tramun", "Garbí", "Ponent", "Xaloc", "Mestral", "Llevant", "Migjorn"};

@@ -41,6 +41,11 @@ bool Es_Mode(const std::string& text) {
   return text == "--base" || text == "--demo" || text == "--empty" || text == "--terminal";
 }
 
+// A terminal stands on a shared database that somebody names.
+bool Te_Sentit(const Ordre_Installacio& ordre) {
+  return !ordre.mode.empty() && (ordre.mode != "--terminal" || !ordre.Valor_De("--shared").empty());
+}
+
 // False when the words make no sense.
 bool Llegir_Ordre(int argc, char** argv, Ordre_Installacio& ordre) {
   static const std::string amb_valor[] = {"--shared", "--data", "--company-nif", "--company-name", "--password"};
@@ -55,7 +60,7 @@ bool Llegir_Ordre(int argc, char** argv, Ordre_Installacio& ordre) {
     if (!coneguda || i + 1 == argc) return false;
     ordre.valors[paraula] = argv[++i];
   }
-  return !ordre.mode.empty();
+  return Te_Sentit(ordre);
 }
 
 std::string Preguntar(const char* pregunta, bool amagada = false) {
@@ -110,6 +115,10 @@ void Executar(const Ordre_Installacio& ordre) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (argc == 2 && std::string_view(argv[1]) == "--help") {
+    std::cout << ajuda;
+    return 0;
+  }
   Ordre_Installacio ordre;
   if (!Llegir_Ordre(argc, argv, ordre)) {
     std::cerr << ajuda;

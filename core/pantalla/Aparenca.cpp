@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -103,9 +104,17 @@ void Vestir(QApplication& aplicacio) {
   }
   paleta.setColor(QPalette::Disabled, QPalette::Base, QColor(0xF2, 0xF4, 0xF6));
   aplicacio.setPalette(paleta);
-  // What cannot be typed into looks it.
-  aplicacio.setStyleSheet(QStringLiteral("QLineEdit[readOnly=\"true\"] { background: #EAEEF2; }"));
   aplicacio.setWindowIcon(Icona_Programa());
+}
+
+// What cannot be typed into looks it.
+void Vestir_Formulari(QWidget* formulari) {
+  for (auto* camp : formulari->findChildren<QLineEdit*>()) {
+    if (!camp->isReadOnly()) continue;
+    QPalette paleta = camp->palette();
+    paleta.setColor(QPalette::Base, QColor(0xEA, 0xEE, 0xF2));
+    camp->setPalette(paleta);
+  }
 }
 
 // A spring: three jets of water over a basin.

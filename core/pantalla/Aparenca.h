@@ -8,6 +8,7 @@
 class QApplication;
 
 void Vestir(QApplication& aplicacio);
+void Vestir_Formulari(QWidget* formulari);
 
 // The look of a row of a grid by the name of its style; nothing for an unknown name.
 QVariant Fons_Estil(const QString& estil);

@@ -10,6 +10,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Idiomes.h"
 #include "core/M_Usuaris.h"
+#include "core/pantalla/Aparenca.h"
 #include "core/pantalla/Formulari.h"
 #include "core/pantalla/Graella.h"
 #include "core/pantalla/Traduccio.h"
@@ -86,6 +87,7 @@ Formulari* Carregar_Formulari(const QString& nom) {
     const auto it = Carregats().find(nom);
     if (it != Carregats().end() && it->second == quin) Carregats().erase(it);
   });
+  Vestir_Formulari(nou.get());
   nou->Carregar();
   for (auto* graella : nou->findChildren<Graella*>()) graella->Recuperar_Amplades();
   nou->Aplicar_Drets();

@@ -174,7 +174,7 @@ int Tallar(int talls, std::uint32_t llavor) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   if (argc == 4 && std::strcmp(argv[1], "--treballar") == 0) {
     const std::string queixa = Treballar_Sense_Fi(argv[2], static_cast<std::uint32_t>(std::stoul(argv[3])));
     std::fprintf(stderr, "terminal: %s\n", queixa.c_str());
@@ -190,4 +190,7 @@ int main(int argc, char** argv) {
     }
   }
   return Tallar(talls, llavor);
+} catch (const std::exception& error) {
+  std::fprintf(stderr, "prova_talls: %s\n", error.what());
+  return EXIT_FAILURE;
 }

@@ -91,7 +91,7 @@ bool Lector::Treure(const QString& mot) {
 }
 
 QString Lector::Resta() {
-  const QString text = Resta_Tal_Qual();
+  QString text = Resta_Tal_Qual();
   if (!text.startsWith(u'"')) return text;
   const auto net = Entre_Cometes(text);
   if (net) return *net;

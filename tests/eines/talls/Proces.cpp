@@ -31,6 +31,7 @@ Tub Nou_Tub() {
   dup2(sortida, STDOUT_FILENO);
   arguments.insert(arguments.begin(), programa);
   std::vector<char*> punters;
+  punters.reserve(arguments.size() + 1);
   for (std::string& argument : arguments) punters.push_back(argument.data());
   punters.push_back(nullptr);
   execv(programa.c_str(), punters.data());
