@@ -2,7 +2,7 @@
 # Installs what is missing (and only that), configures and builds. Quick when everything is there.
 
 paquets_construccio="cmake ninja-build g++ ccache pkg-config qt6-base-dev libsqlite3-dev libicu-dev
-  libgtest-dev libbenchmark-dev nlohmann-json3-dev fonts-dejavu-core fonts-liberation2"
+  libgtest-dev nlohmann-json3-dev fonts-dejavu-core fonts-liberation2"
 paquets_proves="clang-format clang-tidy poppler-utils git"
 
 installat() { dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'; }
