@@ -251,22 +251,28 @@ void Editor_Document::Desar_Capcalera() {
   Aplicar_Drets();
 }
 
-void Editor_Document::Deixar_Numero() {
+// True when the number in the field is the document's, or has become it. One that is taken gives way to the old one.
+bool Editor_Document::Acceptar_Numero() {
   const auto escrit = Numero_Escrit(camp_numero_->text());
-  if (!escrit) return Retenir_Focus(camp_numero_);
-  if (*escrit == numero_) return;
+  if (!escrit) return false;
+  if (*escrit == numero_) return true;
   if (Existeix_Document(descripcio_.tipus, *escrit, sessio.Empresa_Actual)) {
     camp_numero_->setText(Text_De(numero_));
-    return Retenir_Focus(camp_numero_);
+    return false;
   }
   try {
     Canviar_Numero(*escrit);
+    return true;
   } catch (const Error_Brollador&) {
     cap_.CancelUpdate();
     camp_numero_->setText(Text_De(numero_));
     Retenir_Focus(camp_numero_);
     throw;
   }
+}
+
+void Editor_Document::Deixar_Numero() {
+  if (!Acceptar_Numero()) Retenir_Focus(camp_numero_);
 }
 
 // The lock of the new number first: when it is refused the document stays locked under its own.
@@ -390,6 +396,7 @@ void Editor_Document::Imprimir(const char* proposit) {
 // Each step runs whatever became of the one before: a document that cannot be saved is released all the same.
 void Editor_Document::Descarregar() {
   if (Dret() != "C") {
+    Guardar_Event([this] { Acceptar_Numero(); });  // typed, and the field never left
     Guardar_Event([this] { Desar_Capcalera(); }, [this] { cap_.CancelUpdate(); });
     Guardar_Event([this] { Esborrar_Buit(); });
   }

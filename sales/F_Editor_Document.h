@@ -84,6 +84,7 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Aplicar_Estat();
   void Aplicar_Opcio();
   void Deixar_Numero();
+  bool Acceptar_Numero();
   void Canviar_Numero(const Valor& nou);
   void Canviar_Client();
   void Desar_Linia();

@@ -33,8 +33,11 @@ Selector_Data::Selector_Data(QWidget* pare) : QWidget(pare), camp_(new QLineEdit
   En_Sortir(camp_, [this] { Deixar(); });
 }
 
+// Text that is no day, and has not been left yet, leaves the day of before in force.
 std::optional<Data_Hora> Selector_Data::Data() const {
-  return Data_De_Text(camp_->text().toStdString());
+  const QString escrit = camp_->text().trimmed();
+  const auto dia = Data_De_Text(escrit.toStdString());
+  return dia || escrit.isEmpty() ? dia : Data_De_Text(desada_.toStdString());
 }
 
 void Selector_Data::Data(const std::optional<Data_Hora>& dia) {
@@ -49,7 +52,7 @@ QString Selector_Data::Text() const {
 // Only a day of the calendar or nothing at all can be left behind.
 void Selector_Data::Deixar() {
   const QString escrit = camp_->text().trimmed();
-  const auto dia = Data();
+  const auto dia = Data_De_Text(escrit.toStdString());
   if (!dia && !escrit.isEmpty()) return Retenir_Focus(camp_);
   const QString abans = desada_;
   Data(dia);
