@@ -5,6 +5,7 @@
 #include "core/M_Usuaris.h"
 #include "core/pantalla/Camps.h"
 #include "core/pantalla/Control_Interface.h"
+#include "core/pantalla/Teclat.h"
 #include "ui_F_Subinici.h"
 
 namespace {
@@ -42,6 +43,6 @@ void F_Subinici::Iniciar() {
 void F_Subinici::Rebutjar() {
   sessio.pantalla->Caixa(Missatge("Incorrecte !!!", "¡¡¡ Incorrecto !!!", "Incorrect !!!"), estil::simple,
                          Missatge("Usuari", "Usuario", "User"));
-  focusNextPrevChild(true);
+  Premer_Tab(*this);
   if (auto* camp = qobject_cast<QLineEdit*>(focusWidget())) camp->selectAll();
 }

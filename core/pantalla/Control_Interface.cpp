@@ -60,7 +60,7 @@ void Habilitar(Formulari* formulari, bool habilitat) {
 }
 
 // Centred, a little above the middle: the menu and the status area need their room.
-void Centrar(QMdiSubWindow* finestra, const QMdiArea* area) {
+void Centrar_Formulari(QMdiSubWindow* finestra, const QMdiArea* area) {
   const QSize lloc = area->viewport()->size();
   const int x = std::max(0, (lloc.width() - finestra->width()) / 2);
   const int y = std::max(0, (lloc.height() * 7 / 8 - finestra->height()) / 2);
@@ -74,7 +74,7 @@ void Collocar(Formulari* formulari) {
   finestra->setAttribute(Qt::WA_DeleteOnClose);
   const QSize vora = finestra->sizeHint() - formulari->sizeHint();
   finestra->resize((formulari->sizeHint() + vora).boundedTo(area->viewport()->size()));
-  Centrar(finestra, area);
+  Centrar_Formulari(finestra, area);
   finestra->show();
 }
 

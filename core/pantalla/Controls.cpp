@@ -13,6 +13,7 @@
 
 #include "core/dades/Numeros.h"
 #include "core/pantalla/Camps.h"
+#include "core/pantalla/Teclat.h"
 
 // ---- Selector_Data ----------------------------------------------------------------------------------------------
 
@@ -189,9 +190,7 @@ void Camp_Numeric::Numero(double valor) {
   setText(QString::fromStdString(Format_Numero(valor, mascara_)));
 }
 
-// The point of the keyboard and of its numeric pad is the decimal comma.
 void Camp_Numeric::keyPressEvent(QKeyEvent* event) {
-  if (event->text() != u"." || isReadOnly()) return QLineEdit::keyPressEvent(event);
-  insert(QStringLiteral(","));
+  if (!Punt_Per_Coma(*event, *this)) return QLineEdit::keyPressEvent(event);
   event->accept();
 }

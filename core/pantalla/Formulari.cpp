@@ -1,14 +1,12 @@
 #include "core/pantalla/Formulari.h"
 
-#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QRadioButton>
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/pantalla/Control_Interface.h"
 #include "core/pantalla/Graella.h"
+#include "core/pantalla/Teclat.h"
 
 namespace {
 
@@ -64,10 +62,5 @@ void Formulari::closeEvent(QCloseEvent* event) {
 }
 
 void Formulari::keyPressEvent(QKeyEvent* event) {
-  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QWidget::keyPressEvent(event);
-  QWidget* camp = focusWidget();
-  auto* boto = qobject_cast<QAbstractButton*>(camp);
-  if (boto != nullptr && !boto->isCheckable()) return boto->click();
-  focusNextPrevChild(true);
-  if (auto* text = qobject_cast<QLineEdit*>(focusWidget())) text->selectAll();
+  if (!Enter_Avanca(*event, *this)) QWidget::keyPressEvent(event);
 }
