@@ -161,7 +161,7 @@ void F_Principal::Crear_Menu() {
       menus[Text(entrada.nom)] = menu;
       accio = menu->menuAction();
     } else {
-      accio = new QAction(Text(entrada.titol), this);
+      accio = new QAction(entrada.titol == ratlla ? QString() : Text(entrada.titol), this);
     }
     accio->setObjectName(Text(entrada.nom));
     accio->setSeparator(entrada.titol == ratlla);

@@ -70,3 +70,18 @@ TEST(Textos, Every_caption_of_every_screen_has_its_line) {
   }
   EXPECT_GE(pantalles, 4);
 }
+
+TEST(Textos, No_two_captions_of_a_screen_share_a_shortcut) {
+  static const QRegularExpression drecera(QStringLiteral("&([^&])"));
+  for (std::size_t idioma = 0; idioma < 3; ++idioma) {
+    QSet<QString> vistes;
+    for (const auto& text : Textos_De_Pantalles()) {
+      const auto trobada = drecera.match(QString::fromStdString(text.text[idioma]));
+      if (text.propietat != "CAPTION" || !trobada.hasMatch()) continue;
+      const QString clau = QString::fromStdString(text.objecte) + u' ' + trobada.captured(1).toUpper();
+      EXPECT_FALSE(vistes.contains(clau))
+          << clau.toStdString() << " again at " << text.control << ": " << text.text[idioma];
+      vistes << clau;
+    }
+  }
+}
