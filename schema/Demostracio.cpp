@@ -191,6 +191,12 @@ void Fer_Proveidors(Sort& sort) {
   }
 }
 
+std::string Descripcio_D_Article(Sort& sort, const demostracio::Familia& familia, int acabat) {
+  std::string descripcio = sort.De(familia.peces);
+  if (familia.amb_acabat) descripcio += std::string(" ") + demostracio::acabats[static_cast<std::size_t>(acabat)];
+  return descripcio + " " + std::to_string(familia.pas * (2 + sort.Fins(30))) + " " + familia.mida;
+}
+
 // Cost, margin, price and discount stand in the relation that the article's own screen keeps.
 void Fer_Articles(Sort& sort) {
   Recordset rs;
@@ -204,9 +210,7 @@ void Fer_Articles(Sort& sort) {
     const double marge = 20 + 5 * sort.Fins(7);
     const double pvp = Arrodonir(cost * (1 + marge / 100), 2);
     Afegir(rs, {{"CODI_ART", Codi("", i, 10)},
-                {"DESCRIPCIO_ART", std::string(sort.De(peca.peces)) + " " +
-                                       demostracio::acabats[static_cast<std::size_t>(acabat)] + " " +
-                                       std::to_string(2 + sort.Fins(60)) + " " + peca.mida},
+                {"DESCRIPCIO_ART", Descripcio_D_Article(sort, peca, acabat)},
                 {"FAMILIA_ART", Codi("", familia + 1, 2)},
                 {"SUBFAMILIA_ART", Codi("", acabat + 1, 2)},
                 {"MARCA_ART", Codi("", 1 + sort.Fins(static_cast<int>(demostracio::marques.size())), 2)},

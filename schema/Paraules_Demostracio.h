@@ -46,20 +46,28 @@ struct Familia {
   const char* nom;
   std::array<const char*, 4> peces;
   const char* mida;
-  double cost;  // euros, around which the prices of the family lie
+  int pas;          // of the sizes: 50 W, 100 W...
+  bool amb_acabat;  // a nail has a finish, a plant has none
+  double cost;      // euros, around which the prices of the family lie
   const char* iva;
 };
 inline constexpr std::array<Familia, 10> families = {{
-    {"Cargoleria", {"Cargol", "Femella", "Volandera", "Tac"}, "mm", 0.35, "GN"},
-    {"Eines de mà", {"Martell", "Tornavís", "Alicates", "Serra"}, "cm", 9.5, "GN"},
-    {"Màquines", {"Trepant", "Polidora", "Caladora", "Fresadora"}, "W", 95, "GN"},
-    {"Fusta", {"Llistó", "Tauler", "Post", "Sòcol"}, "cm", 6.2, "GN"},
-    {"Pintura", {"Esmalt", "Vernís", "Pintura plàstica", "Imprimació"}, "l", 14, "GN"},
-    {"Lampisteria", {"Colze", "Vàlvula", "Aixeta", "Tub"}, "mm", 4.8, "GN"},
-    {"Electricitat", {"Endoll", "Interruptor", "Cable", "Làmpada"}, "A", 5.6, "GN"},
-    {"Jardí", {"Planter", "Adob", "Llavor de gespa", "Escorça"}, "kg", 7.3, "RD"},
-    {"Hort", {"Planta de tomàquet", "Patata de sembra", "Llavor de mongeta", "Planta de carbassó"}, "u", 1.1, "SR"},
-    {"Ferratges", {"Frontissa", "Pany", "Maneta", "Cadenat"}, "mm", 11, "GN"},
+    {"Cargoleria", {"Cargol", "Femella", "Volandera", "Tac"}, "mm", 1, true, 0.35, "GN"},
+    {"Eines de mà", {"Martell", "Tornavís", "Alicates", "Serra"}, "cm", 1, true, 9.5, "GN"},
+    {"Màquines", {"Trepant", "Polidora", "Caladora", "Fresadora"}, "W", 50, true, 95, "GN"},
+    {"Fusta", {"Llistó", "Tauler", "Post", "Sòcol"}, "cm", 5, true, 6.2, "GN"},
+    {"Pintura", {"Esmalt", "Vernís", "Pintura plàstica", "Imprimació"}, "l", 1, false, 14, "GN"},
+    {"Lampisteria", {"Colze", "Vàlvula", "Aixeta", "Tub"}, "mm", 1, true, 4.8, "GN"},
+    {"Electricitat", {"Endoll", "Interruptor", "Cable", "Làmpada"}, "A", 1, true, 5.6, "GN"},
+    {"Jardí", {"Planter", "Adob", "Llavor de gespa", "Escorça"}, "kg", 1, false, 7.3, "RD"},
+    {"Hort",
+     {"Planta de tomàquet", "Patata de sembra", "Llavor de mongeta", "Planta de carbassó"},
+     "u",
+     1,
+     false,
+     1.1,
+     "SR"},
+    {"Ferratges", {"Frontissa", "Pany", "Maneta", "Cadenat"}, "mm", 1, true, 11, "GN"},
 }};
 
 }  // namespace demostracio
