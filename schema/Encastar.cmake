@@ -1,5 +1,5 @@
 # Writes the texts of the schema folder into one source file: cmake -DDESTI=file.cpp -DARREL=folder -P Encastar.cmake
-file(GLOB fitxers RELATIVE ${ARREL} ${ARREL}/*.sql ${ARREL}/textos/*.tsv ${ARREL}/demostracio/*.tsv)
+file(GLOB fitxers RELATIVE ${ARREL} ${ARREL}/*.sql ${ARREL}/textos/*.tsv)
 set(sortida "#include \"schema/Fitxers_Encastats.h\"\n\n#include \"core/dades/Error_Brollador.h\"\n\nnamespace {\n\n")
 set(taula "")
 set(n 0)
