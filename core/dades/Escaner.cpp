@@ -1,0 +1,152 @@
+#include <array>
+#include <cctype>
+#include <charconv>
+
+#include "core/dades/Dates.h"
+#include "core/dades/Dialecte.h"
+#include "core/dades/Mots_SQL.h"
+
+using namespace mots_sql;
+
+namespace {
+
+class Escaner {
+ public:
+  explicit Escaner(std::string_view text) : text_(text) { sortida_.forma.reserve(text.size()); }
+
+  Sentencia_Escanejada Executar() {
+    while (i_ < text_.size()) Pas();
+    while (!sortida_.forma.empty() && (sortida_.forma.back() == ';' || std::isspace(Ultim()) != 0)) {
+      sortida_.forma.pop_back();
+    }
+    if (sortida_.forma.find(';') != std::string::npos) Sentencia_Erronia(";");
+    return std::move(sortida_);
+  }
+
+ private:
+  int Ultim() const { return static_cast<unsigned char>(sortida_.forma.back()); }
+
+  void Pas() {
+    const char c = text_[i_];
+    if (c == '\'') return Llegir_Text();
+    if (c == '#') return Llegir_Data();
+    if (c == '"' || c == '[') return Copiar_Nom_Entre(c == '[' ? ']' : '"');
+    if (c == '-' && i_ + 1 < text_.size() && text_[i_ + 1] == '-') Sentencia_Erronia("--");
+    if (Comenca_Numero()) return Llegir_Numero();
+    if (Es_De_Nom(c)) return Copiar_Nom();
+    sortida_.forma.push_back(c);
+    ++i_;
+  }
+
+  void Literal(Valor valor) {
+    sortida_.literals.push_back(std::move(valor));
+    sortida_.forma += '?' + std::to_string(sortida_.literals.size());
+  }
+
+  void Llegir_Text() {
+    std::string valor;
+    for (++i_; i_ < text_.size(); ++i_) {
+      if (text_[i_] != '\'') {
+        valor.push_back(text_[i_]);
+      } else if (i_ + 1 < text_.size() && text_[i_ + 1] == '\'') {
+        valor.push_back(text_[++i_]);
+      } else {
+        ++i_;
+        if (i_ < text_.size() && Es_De_Nom(text_[i_])) Sentencia_Erronia(text_.substr(i_, 20));
+        return Literal(std::move(valor));
+      }
+    }
+    Sentencia_Erronia("'" + valor.substr(0, 20));
+  }
+
+  void Llegir_Data() {
+    std::array<int, 3> parts{};  // month, day, year
+    const std::size_t fi = text_.find('#', i_ + 1);
+    const std::string_view dins = text_.substr(i_ + 1, fi == std::string_view::npos ? 0 : fi - i_ - 1);
+    const char* p = dins.data();
+    const char* final = p + dins.size();
+    bool be = true;
+    for (std::size_t k = 0; be && k < 3; ++k) {
+      const auto [seguent, error] = std::from_chars(p, final, parts[k]);
+      be = error == std::errc() && (k == 2 ? seguent == final : seguent != final && *seguent == '/');
+      p = k == 2 || !be ? seguent : seguent + 1;
+    }
+    const Data_Hora data{.any = parts[2], .mes = parts[0], .dia = parts[1]};
+    if (!be || !Es_Data(data)) Sentencia_Erronia("#" + std::string(dins));
+    i_ = fi + 1;
+    Literal(data);
+  }
+
+  // A digit that begins a number, or the sign of one where a value is expected.
+  bool Comenca_Numero() const {
+    const char c = text_[i_];
+    const bool darrere_nom = !sortida_.forma.empty() && Es_De_Nom(sortida_.forma.back());
+    if (Es_Digit(c)) return !darrere_nom;
+    const bool digit_despres = i_ + 1 < text_.size() && Es_Digit(text_[i_ + 1]);
+    if (c == '.') return digit_despres && !darrere_nom;
+    if (c != '-' || !digit_despres) return false;
+    std::size_t k = sortida_.forma.size();
+    while (k > 0 && sortida_.forma[k - 1] == ' ') --k;
+    return k == 0 || std::string_view("=<>(,").find(sortida_.forma[k - 1]) != std::string_view::npos;
+  }
+
+  void Llegir_Numero() {
+    const std::size_t inici = i_;
+    if (text_[i_] == '-') ++i_;
+    const auto digits = [&] {
+      while (i_ < text_.size() && Es_Digit(text_[i_])) ++i_;
+    };
+    digits();
+    bool enter = true;
+    if (i_ < text_.size() && text_[i_] == '.') {
+      enter = false;
+      ++i_;
+      digits();
+    }
+    if (i_ + 1 < text_.size() && (text_[i_] == 'e' || text_[i_] == 'E')) {
+      const std::size_t signe = text_[i_ + 1] == '+' || text_[i_ + 1] == '-' ? 1U : 0U;
+      if (i_ + 1 + signe < text_.size() && Es_Digit(text_[i_ + 1 + signe])) {
+        enter = false;
+        i_ += 1 + signe;
+        digits();
+      }
+    }
+    const std::string_view escrit = text_.substr(inici, i_ - inici);
+    if (i_ < text_.size() && Es_De_Nom(text_[i_])) Sentencia_Erronia(text_.substr(inici, 20));
+    Literal(Valor_Numeric(escrit, enter));
+  }
+
+  static Valor Valor_Numeric(std::string_view escrit, bool enter) {
+    std::int64_t valor_enter = 0;
+    const char* fi = escrit.data() + escrit.size();
+    if (enter && std::from_chars(escrit.data(), fi, valor_enter).ec == std::errc()) return valor_enter;
+    double valor = 0;
+    if (std::from_chars(escrit.data(), fi, valor).ec != std::errc()) Sentencia_Erronia(escrit);
+    return valor;
+  }
+
+  void Copiar_Nom() {
+    const std::size_t inici = i_;
+    while (i_ < text_.size() && Es_De_Nom(text_[i_])) ++i_;
+    sortida_.forma += text_.substr(inici, i_ - inici);
+  }
+
+  void Copiar_Nom_Entre(char tancament) {
+    const std::size_t fi = text_.find(tancament, i_ + 1);
+    if (fi == std::string_view::npos) Sentencia_Erronia(text_.substr(i_, 20));
+    sortida_.forma += '"';
+    sortida_.forma += text_.substr(i_ + 1, fi - i_ - 1);
+    sortida_.forma += '"';
+    i_ = fi + 1;
+  }
+
+  std::string_view text_;
+  std::size_t i_ = 0;
+  Sentencia_Escanejada sortida_;
+};
+
+}  // namespace
+
+Sentencia_Escanejada Escanejar(std::string_view sentencia) {
+  return Escaner(sentencia).Executar();
+}
