@@ -19,11 +19,11 @@ bool Es_PostgreSQL(const std::string& adreca) {
 Connexio::Connexio() = default;
 Connexio::~Connexio() = default;
 
-void Connexio::Open(const std::string& adreca) {
+void Connexio::Open(const std::string& adreca, int espera) {
   // An empty path would be a database of the engine's own making, gone at the end.
   if (adreca.empty()) throw Error_Brollador(errors::general, "Connexio", "unable to open database file (14)");
   if (Es_PostgreSQL(adreca)) Motor_Desconegut(adreca);
-  motor_ = Obrir_Motor_SQLite(adreca);
+  motor_ = Obrir_Motor_SQLite(adreca, espera);
   adreca_ = adreca;
 }
 

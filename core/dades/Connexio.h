@@ -22,8 +22,11 @@ class Connexio {
   Connexio(const Connexio&) = delete;
   Connexio& operator=(const Connexio&) = delete;
 
-  // Opens an existing database. Raises 0x80004005 with the engine's number and words.
-  void Open(const std::string& adreca);
+  static constexpr int espera_habitual = 8000;
+
+  // Opens an existing database. Raises 0x80004005 with the engine's number and words. A database that another terminal
+  // is writing is waited for, `espera` milliseconds at most; then the statement raises that error.
+  void Open(const std::string& adreca, int espera = espera_habitual);
   void Close();
   bool Es_Oberta() const { return motor_ != nullptr; }
   const std::string& Adreca() const { return adreca_; }

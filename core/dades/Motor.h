@@ -57,5 +57,5 @@ class Motor {
   std::shared_ptr<Record_Traduccions> traduccions_;
 };
 
-std::unique_ptr<Motor> Obrir_Motor_SQLite(const std::string& cami);
+std::unique_ptr<Motor> Obrir_Motor_SQLite(const std::string& cami, int espera);
 void Crear_Fitxer_SQLite(const std::string& cami);

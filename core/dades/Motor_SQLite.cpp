@@ -18,7 +18,6 @@
 
 namespace {
 
-constexpr int espera_ocupat = 8000;  // milliseconds before a locked file is an error
 constexpr std::size_t sentencies_preparades = 300;
 
 constexpr Trets_Motor trets_sqlite{
@@ -67,7 +66,7 @@ struct Preparada {
   bool escriu = false;
 };
 
-Base Obrir_Base(const std::string& cami, int mode) {
+Base Obrir_Base(const std::string& cami, int mode, int espera) {
   sqlite3* oberta = nullptr;
   const int codi = sqlite3_open_v2(cami.c_str(), &oberta, mode, nullptr);
   Base base(oberta);
@@ -76,7 +75,7 @@ Base Obrir_Base(const std::string& cami, int mode) {
     throw Error_Brollador(errors::general, "SQLite", paraules + " (" + std::to_string(codi) + "): " + cami);
   }
   sqlite3_extended_result_codes(base.get(), 1);
-  sqlite3_busy_timeout(base.get(), espera_ocupat);
+  sqlite3_busy_timeout(base.get(), espera);
   // A name between double quotes is a name: one that is no column is an error, not a text.
   sqlite3_db_config(base.get(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   Registrar_Funcions_SQLite(base.get());
@@ -85,8 +84,8 @@ Base Obrir_Base(const std::string& cami, int mode) {
 
 class Motor_SQLite final : public Motor {
  public:
-  explicit Motor_SQLite(const std::string& cami)
-      : base_(Obrir_Base(cami, SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE)), retencio_(cami + "-edicions") {
+  Motor_SQLite(const std::string& cami, int espera)
+      : base_(Obrir_Base(cami, SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE, espera)), retencio_(cami + "-edicions") {
     if (sqlite3_db_readonly(base_.get(), "main") == 1) {
       throw Error_Brollador(errors::general, "SQLite", "attempt to write a readonly database (8): " + cami);
     }
@@ -334,8 +333,8 @@ class Motor_SQLite final : public Motor {
 
 }  // namespace
 
-std::unique_ptr<Motor> Obrir_Motor_SQLite(const std::string& cami) {
-  return std::make_unique<Motor_SQLite>(cami);
+std::unique_ptr<Motor> Obrir_Motor_SQLite(const std::string& cami, int espera) {
+  return std::make_unique<Motor_SQLite>(cami, espera);
 }
 
 void Crear_Fitxer_SQLite(const std::string& cami) {
@@ -345,7 +344,7 @@ void Crear_Fitxer_SQLite(const std::string& cami) {
     throw Error_Brollador(errors::general, "SQLite", cami + ": " + std::strerror(errno));
   }
   close(fitxer);
-  const Base base = Obrir_Base(cami, SQLITE_OPEN_READWRITE);
+  const Base base = Obrir_Base(cami, SQLITE_OPEN_READWRITE, 0);
   const char* esquema =
       "CREATE TABLE ESQUEMA (ORDRE INTEGER PRIMARY KEY, TAULA TEXT NOT NULL, COLUMNA TEXT NOT NULL, "
       "TIPUS TEXT NOT NULL, CLAU INTEGER NOT NULL) STRICT";

@@ -96,6 +96,23 @@ TEST_F(Enllac, A_transaction_without_a_write_holds_no_lock) {
   connexio.CommitTrans();
 }
 
+TEST_F(Enllac, A_file_that_another_terminal_keeps_locked_is_an_error_and_then_usable_again) {
+  Connexio impacient;
+  impacient.Open(cami, 50);
+  altra.BeginTrans();
+  altra.Execute("INSERT INTO CLIENTS (NIF_CLI) VALUES ('theirs')");
+  try {
+    impacient.Execute("INSERT INTO CLIENTS (NIF_CLI) VALUES ('mine')");
+    FAIL() << "the file was locked";
+  } catch (const Error_Brollador& error) {
+    EXPECT_EQ(error.Numero(), errors::general);
+    EXPECT_EQ(error.Descripcio(), "database is locked (5)");
+  }
+  altra.CommitTrans();
+  impacient.Execute("INSERT INTO CLIENTS (NIF_CLI) VALUES ('mine')");
+  EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(2));
+}
+
 TEST_F(Enllac, A_failed_statement_leaves_the_transaction_usable) {
   connexio.BeginTrans();
   Client("1", "A");
