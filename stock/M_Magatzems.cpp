@@ -28,12 +28,13 @@ void Fer_Pas(const std::function<void()>& pas) {
   }
 }
 
-// The steps of a posting, and what the user sees of their failure: one box, and 1010 for the caller.
-void Fer_Passos(std::initializer_list<std::function<void()>> passos, bool desfer_en_error) {
+// The steps of a posting, and what the user sees of their failure: one box, and 1010 for the caller. The work is undone
+// before the box is shown, so that no other terminal waits for somebody to read it.
+void Fer_Passos(std::initializer_list<std::function<void()>> passos) {
   try {
     for (const auto& pas : passos) Fer_Pas(pas);
   } catch (const Error_Brollador& error) {
-    if (desfer_en_error) Desfer_Transaccio();
+    Desfer_Transaccio();
     Alliberar_Entrada();
     Mostrar_Error(error);
     throw Error_Brollador(errors::refusat, "M_Magatzems", "Error en los Movimientos...");
@@ -42,8 +43,7 @@ void Fer_Passos(std::initializer_list<std::function<void()>> passos, bool desfer
 
 void Moviment(const Article_Estoc& art, double delta, const char* tipus, const std::string& document) {
   Fer_Passos({[&] { Actualitzar_Stock(art.article, art.minim, art.magatzem, delta, art.stock_neg, art.porta_stock); },
-              [&] { Afegir_Moviment(art.article, art.magatzem, delta, tipus, document, art.porta_stock); }},
-             false);
+              [&] { Afegir_Moviment(art.article, art.magatzem, delta, tipus, document, art.porta_stock); }});
 }
 
 }  // namespace
@@ -84,8 +84,7 @@ void Moviment_Traspas(double signe, const std::string& article, bool porta_stock
   Fer_Passos({[&] { Actualitzar_Stock(article, 0, origen, -delta, neg_origen, porta_stock); },
               [&] { Actualitzar_Stock(article, 0, desti, delta, neg_desti, porta_stock); },
               [&] { Afegir_Moviment(article, origen, -delta, "AM", document, porta_stock); },
-              [&] { Afegir_Moviment(article, desti, delta, "AM", document, porta_stock); }},
-             true);
+              [&] { Afegir_Moviment(article, desti, delta, "AM", document, porta_stock); }});
   sessio.Connexio_Comuna.CommitTrans();
   sessio.Transaccio_Oberta = false;
 }

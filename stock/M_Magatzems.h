@@ -1,5 +1,5 @@
 // The stock ledger, the one place where stock changes: the balance in STOCK and the journal MOVIMIENTOS.
-// Call the entry points inside the caller's transaction. A shortage shows its box once and raises 1010.
+// Call the entry points inside the caller's transaction. A failure undoes it, shows its box once and raises 1010.
 #pragma once
 
 #include <cstdint>

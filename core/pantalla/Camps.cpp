@@ -17,6 +17,12 @@ bool Canvia_De_Finestra(Qt::FocusReason motiu) {
   return motiu == Qt::ActiveWindowFocusReason || motiu == Qt::PopupFocusReason || motiu == Qt::MenuBarFocusReason;
 }
 
+// The button that closes the form is never refused: nobody is kept in it by what a field holds.
+bool Se_N_Va() {
+  const QWidget* ara = QApplication::focusWidget();
+  return ara != nullptr && ara->objectName() == u"B_Exit";
+}
+
 const Formulari* Formulari_De(const QWidget* camp) {
   while (camp != nullptr && qobject_cast<const Formulari*>(camp) == nullptr) camp = camp->parentWidget();
   return static_cast<const Formulari*>(camp);
@@ -73,6 +79,7 @@ void Posar_Focus(QWidget* camp) {
 }
 
 void Retenir_Focus(QWidget* camp) {
+  if (Se_N_Va()) return;
   retencio_pendent = true;
   const QPointer<QWidget> viu(camp);
   QTimer::singleShot(0, camp, [viu] {

@@ -11,7 +11,7 @@ void En_Sortir(QWidget* camp, std::function<void()> rutina);
 void En_Entrar(QWidget* camp, std::function<void()> rutina);
 
 // The field refuses what it holds: it takes the focus back with its text selected. Until then no other field counts as
-// entered or left.
+// entered or left. Nothing is refused to a user who goes to the form's B_Exit.
 void Retenir_Focus(QWidget* camp);
 bool Focus_Retingut();
 

@@ -214,6 +214,28 @@ TEST_F(Minim, is_a_matter_of_the_articles_own_warehouse_alone) {
   EXPECT_TRUE(pantalla.caixes.empty());
 }
 
+TEST_F(M_Magatzems, a_shortage_is_undone_before_its_box_is_shown) {
+  // While somebody reads the box, no other terminal waits for the database.
+  class Pantalla_Que_Mira : public Pantalla_Falsa {
+   public:
+    using Pantalla_Falsa::Caixa;
+    Resposta Caixa(const std::string& text, int estil, const std::string& titol) override {
+      en_transaccio = sessio.Connexio_Comuna.En_Transaccio();
+      return Pantalla_Falsa::Caixa(text, estil, titol);
+    }
+    bool en_transaccio = true;
+  };
+  Pantalla_Que_Mira mira;
+  sessio.pantalla = &mira;
+  Posar_Article({});
+  const Transaccio transaccio;
+  Executar("INSERT INTO MARQUES (CODI_MAR) VALUES('M')");
+  EXPECT_EQ(Error_De([] { Moviment_Albara(+1, Preparar_Article_Estoc("A1"), 3, 9); }).Numero(), errors::refusat);
+  EXPECT_EQ(mira.caixes, std::vector{caixa_sense_estoc});
+  EXPECT_FALSE(mira.en_transaccio);
+  EXPECT_EQ(Files("SELECT * FROM MARQUES"), 0);
+}
+
 // ---- Transfers
 
 TEST_F(M_Magatzems, a_transfer_moves_two_balances_and_writes_two_journal_rows) {

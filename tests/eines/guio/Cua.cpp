@@ -30,6 +30,9 @@ class Cua {
     proces->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     QObject::connect(proces, &QProcess::readyReadStandardOutput, &bucle_, [=, this] { Rebre(proces, quin); });
     QObject::connect(proces, &QProcess::finished, &bucle_, [=, this] { Acabat(proces, quin, fitxer); });
+    QObject::connect(proces, &QProcess::errorOccurred, &bucle_, [=, this](QProcess::ProcessError error) {
+      if (error == QProcess::FailedToStart) No_Engegat(proces, quin, fitxer);
+    });
     ++en_marxa_;
     proces->start(QCoreApplication::applicationFilePath(), opcions_.arguments + QStringList{fitxer});
   }
@@ -42,10 +45,19 @@ class Cua {
 
   void Acabat(QProcess* proces, std::size_t quin, const QString& fitxer) {
     const bool be = proces->exitStatus() == QProcess::NormalExit && proces->exitCode() == 0;
-    ++(be ? passats_ : fallats_);
     Rebre(proces, quin);
     if (proces->exitStatus() == QProcess::CrashExit)
       sortides_[quin] += QStringLiteral("FAILED %1:0: the runner crashed\n").arg(fitxer);
+    Comptar(proces, quin, be);
+  }
+
+  void No_Engegat(QProcess* proces, std::size_t quin, const QString& fitxer) {
+    sortides_[quin] += QStringLiteral("FAILED %1:0: the runner did not start\n").arg(fitxer);
+    Comptar(proces, quin, false);
+  }
+
+  void Comptar(QProcess* proces, std::size_t quin, bool be) {
+    ++(be ? passats_ : fallats_);
     acabats_[quin] = true;
     proces->deleteLater();
     for (; imprimits_ < sortides_.size() && acabats_[imprimits_]; ++imprimits_) Imprimir(imprimits_);
