@@ -23,6 +23,15 @@ struct Taula {
   const Columna* Cercar(std::string_view nom_columna) const;  // any case
 };
 
+// A column of a statement's result.
+struct Camp {
+  std::string nom;                   // as the statement shows it
+  std::string taula;                 // empty for an expression
+  std::string origen;                // column of the table, empty for an expression
+  const Columna* columna = nullptr;  // the same in the catalogue
+  Tipus_Columna tipus = Tipus_Columna::Text;
+};
+
 class Cataleg {
  public:
   void Afegir(Taula taula);

@@ -39,10 +39,11 @@ Motor& Connexio::motor() {
 int Connexio::Execute(std::string_view sentencia) {
   if (Es_Definicio(sentencia)) {
     motor().Definir(Llegir_Definicio(sentencia));
+    motor().Oblidar_Traduccions();
     return 0;
   }
   Sentencia_Escanejada escanejada = Escanejar(sentencia);
-  const Sentencia_Traduida& traduida = motor().Traduccio(escanejada.forma, {});
+  const Sentencia_Traduida& traduida = motor().Traduccio(escanejada.forma, {}).traduida;
   Ordenar_Entre(traduida.entre, escanejada.literals);
   return motor().Executar(traduida.text, escanejada.literals);
 }

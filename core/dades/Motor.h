@@ -49,8 +49,13 @@ class Motor {
 
   virtual std::string Comprovar_Integritat() = 0;
 
-  // A statement's translation, kept by its shape and the table that is to be written.
-  const Sentencia_Traduida& Traduccio(const std::string& forma, std::string_view taula_editable);
+  // A statement's translation, kept by its shape and the table that is to be written; and its columns, once known.
+  struct Traduccio_Guardada {
+    Sentencia_Traduida traduida;
+    std::shared_ptr<const std::vector<Camp>> camps;
+  };
+  Traduccio_Guardada& Traduccio(const std::string& forma, std::string_view taula_editable);
+  void Oblidar_Traduccions();  // the tables are no longer what they were
 
  private:
   struct Record_Traduccions;

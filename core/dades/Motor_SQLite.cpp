@@ -242,9 +242,12 @@ class Motor_SQLite final : public Motor {
         sqlite3_bind_int64(sentencia, lloc, valor.Enter());
       } else if (valor.Es_Doble()) {
         sqlite3_bind_double(sentencia, lloc, valor.Doble());
+      } else if (const std::string* text = valor.Text_Propi()) {
+        // The parameters outlive the step: the engine need not copy them.
+        sqlite3_bind_text(sentencia, lloc, text->data(), static_cast<int>(text->size()), SQLITE_STATIC);
       } else {
-        const std::string text = valor.Es_Data() ? Data_Desada(valor.Data()) : valor.Text();
-        sqlite3_bind_text(sentencia, lloc, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+        const std::string data = Data_Desada(valor.Data());
+        sqlite3_bind_text(sentencia, lloc, data.data(), static_cast<int>(data.size()), SQLITE_TRANSIENT);
       }
     }
   }

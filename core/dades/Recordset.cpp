@@ -32,7 +32,7 @@ struct Recordset::Interior {
   std::string taula_unica;
   bool obert = false;
 
-  std::vector<Camp> camps;
+  std::shared_ptr<const std::vector<Camp>> descrits = std::make_shared<std::vector<Camp>>();
   Files_Memoria files;
   std::string taula_editable;  // empty: the set cannot be written
   std::size_t columna_clau = 0;
@@ -80,7 +80,9 @@ struct Recordset::Interior {
   Valor Clau(std::size_t fila) const { return files.Valor_De(fila, columna_clau, Tipus_Columna::Llarg); }
 
   void Llegir();
-  void Descriure(const std::vector<Columna_Resultat>& columnes, const Sentencia_Traduida& traduida);
+  std::shared_ptr<const std::vector<Camp>> Descriure(const std::vector<Columna_Resultat>& columnes,
+                                                     const Sentencia_Traduida& traduida) const;
+  const std::vector<Camp>& Camps() const { return *descrits; }
   void Filtrar();
   void Exigir_Editable() const;
   void Retenir();
@@ -96,30 +98,35 @@ void Recordset::Interior::Llegir() {
   Sentencia_Escanejada escanejada = Escanejar(nom_de_taula ? "SELECT * FROM " + font : font);
   std::string_view editable;
   if (bloqueig != Bloqueig::Lectura) editable = taula_unica.empty() ? std::string_view("*") : taula_unica;
-  const Sentencia_Traduida& traduida = motor().Traduccio(escanejada.forma, editable);
-  Ordenar_Entre(traduida.entre, escanejada.literals);
+  Motor::Traduccio_Guardada& guardada = motor().Traduccio(escanejada.forma, editable);
+  Ordenar_Entre(guardada.traduida.entre, escanejada.literals);
   std::vector<Columna_Resultat> columnes;
-  motor().Consultar(traduida.text, escanejada.literals, files, camps.empty() ? &columnes : nullptr);
-  if (camps.empty()) Descriure(columnes, traduida);
+  const bool per_descriure = guardada.camps == nullptr;
+  motor().Consultar(guardada.traduida.text, escanejada.literals, files, per_descriure ? &columnes : nullptr);
+  if (per_descriure) guardada.camps = Descriure(columnes, guardada.traduida);
+  descrits = guardada.camps;
+  taula_editable = guardada.traduida.taula_editable;
+  columna_clau = descrits->size();
   Filtrar();
   posicio = 0;
 }
 
-void Recordset::Interior::Descriure(const std::vector<Columna_Resultat>& columnes, const Sentencia_Traduida& traduida) {
-  taula_editable = traduida.taula_editable;
-  columna_clau = columnes.size() - 1;
-  const std::size_t visibles_al_usuari = columnes.size() - (taula_editable.empty() ? 0 : 1);
+std::shared_ptr<const std::vector<Camp>> Recordset::Interior::Descriure(const std::vector<Columna_Resultat>& columnes,
+                                                                        const Sentencia_Traduida& traduida) const {
+  auto nous = std::make_shared<std::vector<Camp>>();
+  const std::size_t visibles_al_usuari = columnes.size() - (traduida.taula_editable.empty() ? 0 : 1);
   for (std::size_t i = 0; i < visibles_al_usuari; ++i) {
     Camp camp{.nom = columnes[i].nom, .taula = columnes[i].taula, .origen = columnes[i].origen};
     const Taula* taula = camp.taula.empty() ? nullptr : motor().Taules().Cercar(camp.taula);
-    const Columna* columna = taula == nullptr ? nullptr : taula->Cercar(camp.origen);
-    if (columna != nullptr) {
-      camp.tipus = columna->tipus;
+    camp.columna = taula == nullptr ? nullptr : taula->Cercar(camp.origen);
+    if (camp.columna != nullptr) {
+      camp.tipus = camp.columna->tipus;
     } else if (traduida.tipus_expressions.size() == visibles_al_usuari && traduida.tipus_expressions[i]) {
       camp.tipus = *traduida.tipus_expressions[i];
     }
-    camps.push_back(std::move(camp));
+    nous->push_back(std::move(camp));
   }
+  return nous;
 }
 
 void Recordset::Interior::Filtrar() {
@@ -128,7 +135,7 @@ void Recordset::Interior::Filtrar() {
   for (std::size_t fila = 0; fila < files.Files(); ++fila) {
     const bool passa = std::all_of(filtre.begin(), filtre.end(), [&](const Condicio_Filtre& condicio) {
       const auto camp = static_cast<std::size_t>(condicio.camp);
-      return Compleix(condicio, files.Valor_De(fila, camp, camps[camp].tipus));
+      return Compleix(condicio, files.Valor_De(fila, camp, Camps()[camp].tipus));
     });
     if (passa) visibles.push_back(fila);
   }
@@ -157,10 +164,10 @@ void Recordset::Interior::Acabar_Edicio() {
 }
 
 const Columna& Recordset::Interior::Columna_De(const Camp& camp) const {
-  const Taula* taula = motor().Taules().Cercar(taula_editable);
-  const Columna* columna = Iguals_Plegats(camp.taula, taula_editable) ? taula->Cercar(camp.origen) : nullptr;
-  if (columna == nullptr) throw Error_Brollador(errors::general, "Recordset", camp.nom + " cannot be written");
-  return *columna;
+  if (camp.columna == nullptr || !Iguals_Plegats(camp.taula, taula_editable)) {
+    throw Error_Brollador(errors::general, "Recordset", camp.nom + " cannot be written");
+  }
+  return *camp.columna;
 }
 
 // UPDATE of the row by its hidden key, if its columns still hold what was read.
@@ -172,15 +179,15 @@ void Recordset::Interior::Desar_Canvi() {
   const auto marcador = [&] { return motor().Trets().marcador + std::to_string(parametres.size()); };
   for (const auto& canvi : canvis) {
     parametres.push_back(canvi.valor);
-    posar += (posar.empty() ? "\"" : ", \"") + Columna_De(camps[static_cast<std::size_t>(canvi.camp)]).nom +
+    posar += (posar.empty() ? "\"" : ", \"") + Columna_De(Camps()[static_cast<std::size_t>(canvi.camp)]).nom +
              "\" = " + marcador();
   }
   parametres.push_back(Clau(fila));
   std::string on = " WHERE " + std::string(motor().Trets().clau_oculta) + " = " + marcador();
   for (const auto& canvi : canvis) {
     const auto camp = static_cast<std::size_t>(canvi.camp);
-    parametres.push_back(files.Valor_De(fila, camp, camps[camp].tipus));
-    on += " AND " + motor().Condicio_Identica(Columna_De(camps[camp]), static_cast<int>(parametres.size()));
+    parametres.push_back(files.Valor_De(fila, camp, Camps()[camp].tipus));
+    on += " AND " + motor().Condicio_Identica(Columna_De(Camps()[camp]), static_cast<int>(parametres.size()));
   }
   const std::string sql = "UPDATE \"" + taula_editable + "\" SET " + posar + on;
   if (motor().Executar(sql, parametres) == 0) Llancar_Error(errors::concurrencia, "Recordset");
@@ -194,12 +201,12 @@ Files_Memoria Recordset::Interior::Inserir() {
   for (const auto& canvi : canvis) {
     parametres.push_back(canvi.valor);
     const char* coma = noms.empty() ? "" : ", ";
-    noms += coma + ("\"" + Columna_De(camps[static_cast<std::size_t>(canvi.camp)]).nom + "\"");
+    noms += coma + ("\"" + Columna_De(Camps()[static_cast<std::size_t>(canvi.camp)]).nom + "\"");
     marcadors += coma + (motor().Trets().marcador + std::to_string(parametres.size()));
   }
   const std::string valors = noms.empty() ? " DEFAULT VALUES" : " (" + noms + ") VALUES (" + marcadors + ")";
   std::string torna;
-  for (const auto& camp : camps)
+  for (const auto& camp : Camps())
     torna += Iguals_Plegats(camp.taula, taula_editable) ? "\"" + camp.origen + "\", " : "NULL, ";
   Files_Memoria nova;
   motor().Consultar("INSERT INTO \"" + taula_editable + "\"" + valors + " RETURNING " + torna +
@@ -237,7 +244,6 @@ void Recordset::Open(std::string_view font, Connexio& connexio, Bloqueig bloquei
   d_->font = font;
   d_->connexio = &connexio;
   d_->bloqueig = bloqueig;
-  d_->camps.clear();
   d_->text_filtre.clear();
   d_->Llegir();
   d_->obert = true;
@@ -325,12 +331,12 @@ void Recordset::AbsolutePosition(std::int64_t posicio) {
 }
 
 const std::vector<Camp>& Recordset::Fields() const {
-  return d_->camps;
+  return d_->Camps();
 }
 
 int Recordset::Index_Camp(std::string_view nom) const {
-  for (std::size_t i = 0; i < d_->camps.size(); ++i) {
-    if (Iguals_Plegats(d_->camps[i].nom, nom)) return static_cast<int>(i);
+  for (std::size_t i = 0; i < d_->Camps().size(); ++i) {
+    if (Iguals_Plegats(d_->Camps()[i].nom, nom)) return static_cast<int>(i);
   }
   Llancar_Error(errors::camp_no_trobat, "Recordset", std::string(nom));
 }
@@ -343,13 +349,13 @@ Valor Recordset::operator[](int camp) const {
   if (const Valor* canvi = d_->Canvi_De(camp)) return *canvi;
   if (d_->edicio == Edicio::Alta) return {};
   const auto columna = static_cast<std::size_t>(camp);
-  return d_->files.Valor_De(d_->Fila_Actual(), columna, d_->camps.at(columna).tipus);
+  return d_->files.Valor_De(d_->Fila_Actual(), columna, d_->Camps().at(columna).tipus);
 }
 
 Valor Recordset::Valor_De_Fila(std::int64_t fila, int camp) const {
   if (fila < 0 || fila >= RecordCount()) return {};
   const auto columna = static_cast<std::size_t>(camp);
-  return d_->files.Valor_De(d_->Fila(fila), columna, d_->camps.at(columna).tipus);
+  return d_->files.Valor_De(d_->Fila(fila), columna, d_->Camps().at(columna).tipus);
 }
 
 void Recordset::Filter(std::string_view condicio) {
@@ -375,7 +381,7 @@ void Recordset::AddNew() {
 void Recordset::Set(std::string_view nom, const Valor& valor) {
   d_->Exigir_Editable();
   const int camp = Index_Camp(nom);
-  Valor convertit = Convertir_A_Columna(valor, d_->Columna_De(d_->camps[static_cast<std::size_t>(camp)]).tipus);
+  Valor convertit = Convertir_A_Columna(valor, d_->Columna_De(d_->Camps()[static_cast<std::size_t>(camp)]).tipus);
   if (d_->edicio == Edicio::Cap) {
     d_->Fila_Actual();
     d_->Retenir();

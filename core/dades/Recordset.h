@@ -22,13 +22,6 @@ class Connexio;
 enum class Bloqueig { Lectura = 1, Pessimista = 2, Optimista = 3 };
 enum class Edicio { Cap, Canvi, Alta };
 
-struct Camp {
-  std::string nom;     // as the statement shows it
-  std::string taula;   // empty for an expression
-  std::string origen;  // column of the table, empty for an expression
-  Tipus_Columna tipus = Tipus_Columna::Text;
-};
-
 class Recordset {
  public:
   static constexpr std::int64_t posicio_inici = -2;  // before the first row

@@ -49,6 +49,9 @@ class Valor {
   // there is a time), null as the empty text.
   std::string Text() const;
 
+  // The text itself of a text; null for any other kind.
+  const std::string* Text_Propi() const { return std::get_if<std::string>(&dada_); }
+
   bool operator==(const Valor&) const = default;
 
  private:
