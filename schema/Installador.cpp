@@ -56,6 +56,12 @@ class Obra {
     if (acabada_) return;
     std::error_code ignorat;  // already failing: what cannot be taken away stays
     for (auto it = fets_.rbegin(); it != fets_.rend(); ++it) fs::remove(*it, ignorat);
+    if (base_servidor_.empty()) return;
+    try {
+      Esborrar_Base_Dades(base_servidor_);
+    } catch (const Error_Brollador&) {
+      return;  // the same: a server that went away keeps what it has
+    }
   }
   Obra(const Obra&) = delete;
   Obra& operator=(const Obra&) = delete;
@@ -74,6 +80,11 @@ class Obra {
     fets_.push_back(cami);
   }
   void Base_De_Dades(const std::string& adreca) {
+    if (Es_De_Servidor(adreca)) {
+      Crear_Base_Dades(adreca);
+      base_servidor_ = adreca;
+      return;
+    }
     Fitxer(adreca);
     for (const char* companyia : {"-journal", "-edicions"}) fets_.emplace_back(adreca + companyia);
     Crear_Base_Dades(adreca);
@@ -83,6 +94,7 @@ class Obra {
  private:
   std::vector<fs::path> pendents_;
   std::vector<fs::path> fets_;
+  std::string base_servidor_;
   bool acabada_ = false;
 };
 
@@ -175,7 +187,7 @@ void Crear(const Opcions_Installacio& opcions, const Primera_Empresa& empresa, b
 }  // namespace
 
 std::string Adreca_Compartida(const Opcions_Installacio& opcions) {
-  if (opcions.compartida.find("://") != std::string::npos) return opcions.compartida;
+  if (Es_De_Servidor(opcions.compartida)) return opcions.compartida;
   const fs::path cami =
       opcions.compartida.empty() ? fs::path(opcions.carpeta) / "comuna.db" : fs::path(opcions.compartida);
   return fs::absolute(cami).string();

@@ -1,6 +1,27 @@
 #include "core/dades/Cataleg.h"
 
+#include <array>
+
 #include "core/dades/Text.h"
+
+namespace {
+
+// By the order of Tipus_Columna.
+constexpr std::array<std::string_view, 9> noms_tipus = {"CODI",   "TEXT", "LLARG",     "CURT",       "DOBLE",
+                                                        "BOOLEA", "DATA", "DATA_HORA", "AUTONUMERIC"};
+
+}  // namespace
+
+std::string_view Nom_Tipus(Tipus_Columna tipus) {
+  return noms_tipus.at(static_cast<std::size_t>(tipus));
+}
+
+std::optional<Tipus_Columna> Tipus_De_Nom(std::string_view nom) {
+  for (std::size_t i = 0; i < noms_tipus.size(); ++i) {
+    if (nom == noms_tipus[i]) return static_cast<Tipus_Columna>(i);
+  }
+  return std::nullopt;
+}
 
 const Columna* Taula::Cercar(std::string_view nom_columna) const {
   for (const auto& columna : columnes) {

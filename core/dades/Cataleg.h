@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,9 @@
 // CODI is a text that identifies (ordered as written); TEXT is one that is read (ordered as a dictionary does).
 // Neither tells upper case from lower case; accents count.
 enum class Tipus_Columna { Codi, Text, Llarg, Curt, Doble, Boolea, Data, Data_Hora, Autonumeric };
+
+std::string_view Nom_Tipus(Tipus_Columna tipus);
+std::optional<Tipus_Columna> Tipus_De_Nom(std::string_view nom);
 
 struct Columna {
   std::string nom;

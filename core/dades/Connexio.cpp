@@ -1,20 +1,14 @@
 #include "core/dades/Connexio.h"
 
+#include <filesystem>
+
 #include "core/dades/Error_Brollador.h"
 #include "core/dades/Motor.h"
 #include "core/dades/Parametres_Sentencia.h"
 
-namespace {
-
-bool Es_PostgreSQL(const std::string& adreca) {
-  return adreca.starts_with("postgresql://");
+bool Es_De_Servidor(const std::string& adreca) {
+  return adreca.starts_with("postgresql://") || adreca.starts_with("postgres://");
 }
-
-[[noreturn]] void Motor_Desconegut(const std::string& adreca) {
-  throw Error_Brollador(errors::general, "Connexio", "this build has no engine for " + adreca);
-}
-
-}  // namespace
 
 Connexio::Connexio() = default;
 Connexio::~Connexio() = default;
@@ -22,8 +16,7 @@ Connexio::~Connexio() = default;
 void Connexio::Open(const std::string& adreca, int espera) {
   // An empty path would be a database of the engine's own making, gone at the end.
   if (adreca.empty()) throw Error_Brollador(errors::general, "Connexio", "unable to open database file (14)");
-  if (Es_PostgreSQL(adreca)) Motor_Desconegut(adreca);
-  motor_ = Obrir_Motor_SQLite(adreca, espera);
+  motor_ = Es_De_Servidor(adreca) ? Obrir_Motor_PostgreSQL(adreca, espera) : Obrir_Motor_SQLite(adreca, espera);
   adreca_ = adreca;
 }
 
@@ -46,6 +39,13 @@ int Connexio::Execute(std::string_view sentencia) {
   const Sentencia_Traduida& traduida = motor().Traduccio(escanejada.forma, {}).traduida;
   Ordenar_Entre(traduida.entre, escanejada.literals);
   return motor().Executar(traduida.text, escanejada.literals);
+}
+
+void Connexio::Execute_Despres(std::string_view sentencia) {
+  Sentencia_Escanejada escanejada = Escanejar(sentencia);
+  const Sentencia_Traduida& traduida = motor().Traduccio(escanejada.forma, {}).traduida;
+  Ordenar_Entre(traduida.entre, escanejada.literals);
+  motor().Executar_Despres(traduida.text, escanejada.literals);
 }
 
 void Connexio::BeginTrans() {
@@ -71,8 +71,13 @@ std::string Connexio::Comprovar_Integritat() {
 }
 
 void Crear_Base_Dades(const std::string& adreca) {
-  if (Es_PostgreSQL(adreca)) Motor_Desconegut(adreca);
+  if (Es_De_Servidor(adreca)) return Crear_Base_PostgreSQL(adreca);
   Crear_Fitxer_SQLite(adreca);
+}
+
+void Esborrar_Base_Dades(const std::string& adreca) {
+  if (Es_De_Servidor(adreca)) return Esborrar_Base_PostgreSQL(adreca);
+  for (const char* companyia : {"", "-journal", "-edicions"}) std::filesystem::remove(adreca + companyia);
 }
 
 std::string Text_SQL(std::string_view valor) {

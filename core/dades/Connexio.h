@@ -33,6 +33,9 @@ class Connexio {
 
   // Runs a statement and returns how many rows it touched (0 for a definition of a table).
   int Execute(std::string_view sentencia);
+  // A write of a transaction whose answer nobody waits for. With a server it travels with the next statement, and an
+  // error of its own comes up there; with a file it is Execute.
+  void Execute_Despres(std::string_view sentencia);
 
   void BeginTrans();
   void CommitTrans();
@@ -51,9 +54,14 @@ class Connexio {
   std::string adreca_;
 };
 
-// Creates a new, empty database at the address (a file that does not exist yet) for Open and CREATE TABLE.
-// Raises 1008 when there is something already.
+// postgresql://...: a server's database, not a file.
+bool Es_De_Servidor(const std::string& adreca);
+// Creates a new, empty database at the address for Open and CREATE TABLE: a file that does not exist yet, or our
+// tables' place in a server's database (made too when the server has none of that name). Raises 1008 when there is an
+// installation already.
 void Crear_Base_Dades(const std::string& adreca);
+// Takes away what Crear_Base_Dades and the definitions after it made. A server's database itself stays.
+void Esborrar_Base_Dades(const std::string& adreca);
 
 // 'valor' between single quotes for a statement. Quotes are not doubled: a value that holds one is refused with the
 // faulty-statement error, so that typed text never becomes part of a statement.

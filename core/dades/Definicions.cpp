@@ -6,21 +6,8 @@ using namespace mots_sql;
 
 namespace {
 
-struct Nom_Tipus {
-  std::string_view nom;
-  Tipus_Columna tipus;
-};
-
-constexpr Nom_Tipus noms_tipus[] = {
-    {"CODI", Tipus_Columna::Codi}, {"TEXT", Tipus_Columna::Text},           {"LLARG", Tipus_Columna::Llarg},
-    {"CURT", Tipus_Columna::Curt}, {"DOBLE", Tipus_Columna::Doble},         {"BOOLEA", Tipus_Columna::Boolea},
-    {"DATA", Tipus_Columna::Data}, {"DATA_HORA", Tipus_Columna::Data_Hora}, {"AUTONUMERIC", Tipus_Columna::Autonumeric},
-};
-
-Tipus_Columna Tipus_De_Nom(const std::string& nom) {
-  for (const auto& [text, tipus] : noms_tipus) {
-    if (text == nom) return tipus;
-  }
+Tipus_Columna Tipus_Declarat(const std::string& nom) {
+  if (const auto tipus = Tipus_De_Nom(nom)) return *tipus;
   Sentencia_Erronia(nom);
 }
 
@@ -80,7 +67,7 @@ Definicio Llegir_Definicio(std::string_view sentencia) {
       definicio.regles.push_back(Unir(mots, item, escanejada.literals));
       continue;
     }
-    taula.columnes.push_back({mots[item.primer].text, Tipus_De_Nom(mots[item.primer + 1].text)});
+    taula.columnes.push_back({mots[item.primer].text, Tipus_Declarat(mots[item.primer + 1].text)});
     definicio.columnes.push_back(Unir(mots, {item.primer + 2, item.ultim}, escanejada.literals));
   }
   definicio.taula = std::move(taula);

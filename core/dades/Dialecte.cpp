@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "core/dades/Comparacions.h"
 #include "core/dades/Mots_SQL.h"
 #include "core/dades/Text.h"
 
@@ -10,10 +11,15 @@ using namespace mots_sql;
 
 namespace {
 
+// Functions of the dialect that no engine has as it means them.
+constexpr std::string_view funcions_propies[] = {"NOW", "DATESERIAL", "DATEPART", "DAY", "ISNUMERIC", "ROUND"};
+
 class Traductor {
  public:
   Traductor(const std::string& forma, const Cataleg& taules, const Trets_Motor& trets, std::string_view editable)
-      : mots_(Partir(forma)), taules_(taules), trets_(trets), editable_(editable) {}
+      : mots_(Partir(forma)), taules_(taules), trets_(trets), editable_(editable) {
+    if (Plega()) comparats_ = Marcar_Comparats(mots_, taules_);
+  }
 
   Sentencia_Traduida Executar() {
     if (mots_.empty()) Sentencia_Erronia("");
@@ -29,11 +35,16 @@ class Traductor {
   }
 
  private:
+  // What one SELECT says, and how its items are written.
   struct Parts {
     bool distint = false;
     int top = -1;
     Tram llista, de, on, grup, tenint, ordre;
+    // Items that are grouped by their folded text: one of the texts of each group is shown.
+    bool Agrupa_Textos() const { return distint || !grup.Buit(); }
   };
+
+  bool Plega() const { return !trets_.plegar.empty(); }
 
   std::size_t Tancament(std::size_t obert, std::size_t fi) const {
     int fondaria = 0;
@@ -99,35 +110,92 @@ class Traductor {
 
   std::string Seleccio(Tram tram, bool principal) {
     const Parts p = Separar(tram);
-    std::string text = p.distint ? "SELECT DISTINCT" : "SELECT";
-    text += Llista(p.llista, principal);
-    if (principal) text += Clau_Oculta(p);
+    const bool distint_plegat = Plega() && p.distint && p.grup.Buit();
+    std::string text = p.distint && !distint_plegat ? "SELECT DISTINCT" : "SELECT";
+    text += Llista(p, principal);
+    const std::string clau = principal ? Clau_Oculta(p) : std::string();
+    text += clau.empty() ? clau : "," + clau + " AS CLAU_OCULTA";
     if (!p.de.Buit()) text += " FROM" + Origen(p.de);
     if (!p.on.Buit()) text += " WHERE" + Expressio(p.on);
-    if (!p.grup.Buit()) text += " GROUP BY" + Expressio(p.grup);
+    if (!p.grup.Buit()) text += " GROUP BY" + Grups(p.grup);
+    if (distint_plegat) text += " GROUP BY" + Grups(p.llista) + (clau.empty() ? clau : "," + clau);
     if (!p.tenint.Buit()) text += " HAVING" + Expressio(p.tenint);
-    const Tram ordre = p.ordre.Buit() ? p.grup : p.ordre;
-    if (!ordre.Buit()) text += " ORDER BY" + Ordre(ordre);
+    const bool resum = p.grup.Buit() && Es_Resum(p.llista);
+    if (resum) Exigir_Resum_Sencer(p.llista);
+    Tram ordre = p.ordre.Buit() ? p.grup : p.ordre;
+    if (ordre.Buit() && distint_plegat) ordre = p.llista;
+    if (principal && ordre.Buit() && trets_.clau_en_la_taula && !resum) text += Ordre_D_Arribada(p.de);
+    if (!ordre.Buit()) text += " ORDER BY" + Ordre(ordre, p.Agrupa_Textos());
     if (p.top >= 0) text += " LIMIT " + Marcador(p.top);
+    if (p.Agrupa_Textos()) sortida_.retencio.clear();
     return text;
   }
 
-  std::string Llista(Tram tram, bool principal) {
-    const auto alies_de_fora = alies_;
+  Tram Sense_Alies(Tram item) const { return {item.primer, Buscar(item, {"AS"})}; }
+
+  // A column alone that is a text: what is grouped or ordered by its folded form.
+  bool Es_Columna_De_Text(Tram item) const {
+    return !item.Buit() && Mida_Operand(mots_, item.primer) == item.ultim - item.primer &&
+           Es_Text(Columna_Operand(mots_, item.primer, taules_));
+  }
+
+  std::string Plegat(const std::string& expressio) const {
+    return " " + std::string(trets_.plegar) + "(" + expressio + " )";
+  }
+
+  std::string Grups(Tram tram) {
     std::string text;
     for (const Tram item : Per_Comes(tram)) {
-      const std::size_t com = Buscar(item, {"AS"});
-      const Tram expressio{item.primer, com};
-      const std::string traduida = Expressio(expressio);
-      text += text.empty() ? traduida : "," + traduida;
-      if (principal) sortida_.tipus_expressions.push_back(Tipus_Expressio(expressio));
-      if (com + 1 >= item.ultim) continue;
-      const std::string& alies = mots_[com + 1].text;
-      text += " AS " + Nom(alies);
-      if (taules_.Cercar_Columna(alies) == nullptr) alies_.emplace_back(Plegar(alies), "(" + traduida + " )");
+      const Tram expressio = Sense_Alies(item);
+      if (!text.empty()) text += ",";
+      text += Plega() && Es_Columna_De_Text(expressio) ? Plegat(Expressio(expressio)) : Expressio(expressio);
+    }
+    return text;
+  }
+
+  std::string Llista(const Parts& p, bool principal) {
+    const auto alies_de_fora = alies_;
+    std::string text;
+    for (const Tram item : Per_Comes(p.llista)) {
+      if (!text.empty()) text += ",";
+      if (trets_.clau_en_la_taula && Es(mots_[item.ultim - 1], "*") && Estrella(item, p.de, text)) continue;
+      text += Item(item, p, principal);
     }
     alies_ = alies_de_fora;
     return text;
+  }
+
+  std::string Item(Tram item, const Parts& p, bool principal) {
+    const Tram expressio = Sense_Alies(item);
+    std::string traduida = Expressio(expressio);
+    const bool d_un_grup = Plega() && p.Agrupa_Textos() && Es_Columna_De_Text(expressio);
+    if (d_un_grup) traduida = " MIN(" + traduida + " )";
+    const bool te_alies = expressio.ultim + 1 < item.ultim;
+    const std::string alies = te_alies ? mots_[expressio.ultim + 1].text : std::string();
+    if (principal) {
+      sortida_.tipus_expressions.push_back(Tipus_Expressio(expressio));
+      sortida_.alies.push_back(alies);
+    }
+    if (!te_alies) return d_un_grup ? traduida + " AS " + Nom(mots_[expressio.ultim - 1].text) : traduida;
+    if (taules_.Cercar_Columna(alies) == nullptr) alies_.emplace_back(::Plegar(alies), "(" + traduida + " )");
+    return traduida + " AS " + Nom(alies);
+  }
+
+  // * or T.* as the columns of the catalogue, without the hidden key. False when a derived table is among them.
+  bool Estrella(Tram item, Tram de, std::string& text) {
+    const bool d_una = item.ultim - item.primer == 3;
+    if (Seguent_Derivada(de) != de.ultim) return false;
+    std::string columnes;
+    for (const auto& [nom, alies] : Taules_De(de)) {
+      if (d_una && !Iguals_Plegats(alies, mots_[item.primer].text)) continue;
+      for (const auto& columna : taules_.Cercar(nom)->columnes) {
+        columnes += (columnes.empty() ? " " : ", ") + Nom(alies) + ".\"" + columna.nom + "\"";
+        sortida_.tipus_expressions.emplace_back();
+        sortida_.alies.emplace_back();
+      }
+    }
+    text += columnes;
+    return !columnes.empty();
   }
 
   // The type of what has no column behind it, where the words tell it.
@@ -168,10 +236,11 @@ class Traductor {
     return tram.ultim;
   }
 
-  std::string Ordre(Tram tram) {
+  std::string Ordre(Tram tram, bool agrupa_textos) {
     std::string text;
     for (Tram item : Per_Comes(tram)) {
       if (item.Buit()) Sentencia_Erronia("ORDER BY");
+      item = Sense_Alies(item);
       std::string sentit;
       const Mot& ultim = mots_[item.ultim - 1];
       if (Es(ultim, "DESC") || Es(ultim, "ASC")) {
@@ -182,16 +251,23 @@ class Traductor {
           item.ultim - item.primer == 1 || (item.ultim - item.primer == 3 && Es(mots_[item.primer + 1], "."));
       const Columna* columna = nom_sol ? taules_.Cercar_Columna(mots_[item.ultim - 1].text) : nullptr;
       if (!text.empty()) text += ",";
-      text += Expressio(item);
-      if (columna != nullptr && columna->tipus == Tipus_Columna::Text) text += trets_.ordre_catala;
-      text += sentit;
+      text += Clau_Ordre(item, columna, agrupa_textos) + sentit;
+      if (trets_.nuls_al_final) text += Es(ultim, "DESC") ? " NULLS LAST" : " NULLS FIRST";
     }
     return text;
   }
 
+  std::string Clau_Ordre(Tram item, const Columna* columna, bool agrupa_textos) {
+    const std::string expressio = Expressio(item);
+    if (!Es_Text(columna)) return expressio;
+    if (columna->tipus == Tipus_Columna::Codi) return Plega() ? Plegat(expressio) : expressio;
+    const bool d_un_grup = Plega() && agrupa_textos;
+    return (d_un_grup ? " MIN(" + expressio + " )" : expressio) + std::string(trets_.ordre_catala);
+  }
+
   // The key of the table that is to be written, behind the other columns.
   std::string Clau_Oculta(const Parts& p) {
-    if (editable_.empty() || !p.grup.Buit() || Seguent_Derivada(p.de) != p.de.ultim) return {};
+    if (editable_.empty() || !p.grup.Buit() || Seguent_Derivada(p.de) != p.de.ultim || Es_Resum(p.llista)) return {};
     const auto taules = Taules_De(p.de);
     if (editable_ == "*" && (taules.size() != 1 || p.distint)) return {};
     for (const auto& [nom, alies] : taules) {
@@ -199,9 +275,40 @@ class Traductor {
       const Taula* taula = taules_.Cercar(nom);
       if (taula == nullptr) return {};
       sortida_.taula_editable = taula->nom;
-      return ", " + Nom(alies) + "." + std::string(trets_.clau_oculta) + " AS CLAU_OCULTA";
+      sortida_.retencio = " FOR UPDATE OF " + Nom(alies);
+      return " " + Nom(alies) + "." + std::string(trets_.clau_oculta);
     }
     return {};
+  }
+
+  // No order was asked: rows come as they were written, where the engine would give them in any order.
+  std::string Ordre_D_Arribada(Tram de) const {
+    if (Seguent_Derivada(de) != de.ultim) return {};
+    std::string text;
+    for (const auto& [nom, alies] : Taules_De(de)) {
+      text += (text.empty() ? " ORDER BY " : ", ") + Nom(alies) + "." + std::string(trets_.clau_oculta);
+    }
+    return text;
+  }
+
+  // A sum over all rows has no single row whose plain columns it could show.
+  void Exigir_Resum_Sencer(Tram llista) const {
+    for (const Tram item : Per_Comes(llista)) {
+      const Tram expressio = Sense_Alies(item);
+      const bool columna = Mida_Operand(mots_, item.primer) == expressio.ultim - item.primer;
+      if (columna && Columna_Operand(mots_, item.primer, taules_) != nullptr) Sentencia_Erronia("GROUP BY");
+    }
+  }
+
+  // One row that sums up many.
+  bool Es_Resum(Tram llista) const {
+    constexpr std::string_view resums[] = {"COUNT", "SUM", "MAX", "MIN", "AVG"};
+    for (std::size_t i = llista.primer; i + 1 < llista.ultim; ++i) {
+      const bool funcio = Es(mots_[i + 1], "(");
+      if (funcio && std::any_of(std::begin(resums), std::end(resums), [&](auto r) { return Es(mots_[i], r); }))
+        return true;
+    }
+    return false;
   }
 
   // Tables of a FROM with the name that the statement calls them by.
@@ -230,6 +337,14 @@ class Traductor {
         i = tanca;
       } else if (Es(mot, "BETWEEN")) {
         i = Entre({i + 1, tram.ultim}, text) - 1;
+      } else if (Plega() && Es(mot, "LIKE")) {
+        text += " LIKE";
+        i = Operand_Comparat(i + 1, text) - 1;
+        text += " ESCAPE ''";
+      } else if (Plega() && Extrem_De_Textos({i, tram.ultim})) {
+        i = Extrem(i, text) - 1;
+      } else if (Plega() && comparats_[i] != Comparat::No) {
+        i = Operand_Comparat(i, text) - 1;
       } else if (mot.mena == Mena::Parametre) {
         text += " " + Marcador(mot.parametre);
       } else if (Es(mot, ".")) {
@@ -240,6 +355,36 @@ class Traductor {
       }
     }
     return text;
+  }
+
+  // An operand of a comparison, folded when it is compared as a text. Returns the place behind it.
+  std::size_t Operand_Comparat(std::size_t i, std::string& text) {
+    const Comparat comparat = comparats_.at(i);
+    const std::size_t fi = i + Mida_Operand(mots_, i);
+    comparats_[i] = Comparat::No;
+    std::string operand = Expressio({i, fi});
+    comparats_[i] = comparat;
+    const bool es_columna = Es_Text(Columna_Operand(mots_, i, taules_));
+    if (comparat != Comparat::No && !es_columna) operand = " CAST(" + operand + " AS text)";
+    text += comparat == Comparat::Plegat ? Plegat(operand) : operand;
+    return fi;
+  }
+
+  // MAX or MIN of a column of texts: the one whose folded form is the last or the first.
+  bool Extrem_De_Textos(Tram tram) const {
+    const Mot& mot = mots_[tram.primer];
+    if (!Es(mot, "MAX") && !Es(mot, "MIN")) return false;
+    if (tram.ultim - tram.primer < 4 || !Es(mots_[tram.primer + 1], "(")) return false;
+    const std::size_t tanca = Tancament(tram.primer + 1, tram.ultim);
+    return Es_Columna_De_Text({tram.primer + 2, tanca});
+  }
+
+  std::size_t Extrem(std::size_t i, std::string& text) {
+    const std::size_t tanca = Tancament(i + 1, mots_.size());
+    const std::string columna = Expressio({i + 2, tanca});
+    const char* sentit = Es(mots_[i], "MAX") ? " DESC" : "";
+    text += " (ARRAY_AGG(" + columna + " ORDER BY" + Plegat(columna) + sentit + " NULLS LAST))[1]";
+    return tanca + 1;
   }
 
   // x BETWEEN a AND b, where a may be above b. Returns the place behind b.
@@ -264,14 +409,18 @@ class Traductor {
   std::string Nom_O_Alies(std::size_t i, std::size_t fi) const {
     const std::string& text = mots_[i].text;
     const bool qualificat = (i + 1 < fi && Es(mots_[i + 1], ".")) || (i > 0 && Es(mots_[i - 1], "."));
-    const bool funcio = i + 1 < fi && Es(mots_[i + 1], "(");
+    const bool taula = i > 0 && Es(mots_[i - 1], "INTO");
+    const bool funcio = !taula && i + 1 < fi && Es(mots_[i + 1], "(");
     if (!qualificat && !funcio && !alies_.empty()) {
       const std::string plegat = Plegar(text);
       for (const auto& [alies, expressio] : alies_) {
         if (alies == plegat) return expressio;
       }
     }
-    return funcio ? text : Nom(text);
+    if (!funcio) return Nom(text);
+    const bool propia = std::any_of(std::begin(funcions_propies), std::end(funcions_propies),
+                                    [&](std::string_view nom) { return Es(mots_[i], nom); });
+    return propia ? std::string(trets_.prefix_propi) + text : text;
   }
 
   // A name as the catalogue spells it, quoted; words of the language as they stand.
@@ -287,6 +436,7 @@ class Traductor {
   const Cataleg& taules_;
   const Trets_Motor& trets_;
   const std::string_view editable_;
+  std::vector<Comparat> comparats_;  // empty for an engine that compares texts by itself
   std::vector<std::pair<std::string, std::string>> alies_;
   int derivades_ = 0;
   Sentencia_Traduida sortida_;

@@ -16,13 +16,18 @@
 #include "core/dades/Cataleg.h"
 #include "core/dades/Valor.h"
 
-// What an engine calls things.
+// What an engine calls things, and what it does not do by itself.
 struct Trets_Motor {
   char marcador;                  // before a parameter's number: ? or $
   std::string_view ordre_catala;  // behind an ORDER BY item that is a text
   std::string_view clau_oculta;   // the hidden key of a table's row
   std::string_view menor;         // scalar functions of two values
   std::string_view major;
+  // The rest is for an engine whose columns cannot compare texts as the dialect does; left out otherwise.
+  std::string_view plegar = {};        // the function that folds a text: what is compared is folded on both sides
+  std::string_view prefix_propi = {};  // before the names of the dialect's own functions
+  bool clau_en_la_taula = false;       // the hidden key is a column that * would show
+  bool nuls_al_final = false;          // of an ascending order, where the dialect has them first
 };
 
 struct Sentencia_Escanejada {
@@ -37,7 +42,9 @@ struct Sentencia_Traduida {
   std::string text;                        // in the engine's own SQL
   std::vector<std::pair<int, int>> entre;  // parameters (from 0) that are the two bounds of a BETWEEN
   std::vector<std::optional<Tipus_Columna>> tipus_expressions;  // of the select items that are no plain column
+  std::vector<std::string> alies;                               // the names given by AS, as written; empty: none
   std::string taula_editable;  // the table whose hidden key was added as the last column
+  std::string retencio;        // behind the text, holds the rows of that table until the transaction ends
 };
 
 // `taula_editable` asks for the hidden key of that table; "*" of the only table when there is just one.

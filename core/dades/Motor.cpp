@@ -1,9 +1,60 @@
 #include "core/dades/Motor.h"
 
 #include <unordered_map>
+#include <utility>
+
+#include "core/dades/Error_Brollador.h"
+#include "core/dades/Text.h"
 
 namespace {
+
 constexpr std::size_t traduccions_guardades = 1000;
+
+Tipus_Columna Tipus_Apuntat(const std::string& nom) {
+  if (const auto tipus = Tipus_De_Nom(nom)) return *tipus;
+  throw Error_Brollador(errors::general, "Motor", "ESQUEMA: " + nom);
+}
+
+}  // namespace
+
+Cataleg Llegir_Esquema(const Files_Memoria& files) {
+  Cataleg taules;
+  Taula taula;
+  std::map<std::int64_t, std::string> clau;
+  const auto tancar = [&] {
+    if (taula.nom.empty()) return;
+    for (const auto& [lloc, columna] : clau) taula.clau.push_back(columna);
+    taules.Afegir(std::exchange(taula, {}));
+    clau.clear();
+  };
+  for (std::size_t i = 0; i < files.Files(); ++i) {
+    const auto text = [&](std::size_t columna) { return files.Valor_De(i, columna, Tipus_Columna::Text).Text(); };
+    if (text(0) != taula.nom) tancar();
+    taula.nom = text(0);
+    taula.columnes.push_back({text(1), Tipus_Apuntat(text(2))});
+    if (const auto lloc = files.Llegir(i, 3).enter; lloc > 0) clau.emplace(lloc, text(1));
+  }
+  tancar();
+  return taules;
+}
+
+std::vector<std::vector<Valor>> Files_Esquema(const Taula& taula) {
+  std::vector<std::vector<Valor>> files;
+  for (const auto& columna : taula.columnes) {
+    std::int64_t lloc = 0;
+    for (std::size_t k = 0; k < taula.clau.size(); ++k) {
+      if (Iguals_Plegats(taula.clau[k], columna.nom)) lloc = static_cast<std::int64_t>(k) + 1;
+    }
+    files.push_back({taula.nom, columna.nom, Nom_Tipus(columna.tipus), lloc});
+  }
+  return files;
+}
+
+// FNV-1a, kept inside the range of a file's offsets.
+std::int64_t Empremta_Fila(const std::string& taula, const Valor& clau) {
+  std::uint64_t hash = 14695981039346656037ULL;
+  for (const char c : taula + '\n' + clau.Text()) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
+  return static_cast<std::int64_t>(hash >> 2);
 }
 
 struct Motor::Record_Traduccions {

@@ -31,6 +31,10 @@ class Motor {
   virtual int Executar(const std::string& sql, const std::vector<Valor>& parametres) = 0;
   virtual int Consultar(const std::string& sql, const std::vector<Valor>& parametres, Files_Memoria& files,
                         std::vector<Columna_Resultat>* columnes) = 0;
+  // A write whose answer nobody waits for: it may travel with the next statement, and its error come up there.
+  virtual void Executar_Despres(const std::string& sql, const std::vector<Valor>& parametres) {
+    Executar(sql, parametres);
+  }
   // A definition of a table or index, entered in the catalogue.
   virtual void Definir(const Definicio& definicio) = 0;
 
@@ -38,6 +42,11 @@ class Motor {
   virtual void CommitTrans() = 0;
   virtual void RollbackTrans() = 0;
   virtual bool En_Transaccio() const = 0;
+  // Rows read to be written have to be held by their statement: true in a transaction that has begun, on an engine
+  // where others write at the same time.
+  virtual bool Reten_El_Que_Llegeix() const { return false; }
+  // Trips to a server so far; none for a file.
+  virtual std::int64_t Viatges() const { return 0; }
 
   // "column is the value of the parameter", nulls and capitals included.
   virtual std::string Condicio_Identica(const Columna& columna, int parametre) const = 0;
@@ -61,6 +70,21 @@ class Motor {
   struct Record_Traduccions;
   std::shared_ptr<Record_Traduccions> traduccions_;
 };
+
+// The catalogue is kept in a table of every database, ESQUEMA, with the dialect's types. From its rows: TAULA, COLUMNA,
+// TIPUS, CLAU (place in the key, 0 for none).
+Cataleg Llegir_Esquema(const Files_Memoria& files);
+// The rows of one table for it.
+std::vector<std::vector<Valor>> Files_Esquema(const Taula& taula);
+
+// A number for a row held while it is in edit.
+std::int64_t Empremta_Fila(const std::string& taula, const Valor& clau);
+
+std::unique_ptr<Motor> Obrir_Motor_PostgreSQL(const std::string& adreca, int espera);
+// Makes the database when the server has none of that name. Raises 1008 when it holds an installation already.
+void Crear_Base_PostgreSQL(const std::string& adreca);
+// Takes away what Crear_Base_PostgreSQL and the definitions after it made.
+void Esborrar_Base_PostgreSQL(const std::string& adreca);
 
 std::unique_ptr<Motor> Obrir_Motor_SQLite(const std::string& cami, int espera);
 void Crear_Fitxer_SQLite(const std::string& cami);

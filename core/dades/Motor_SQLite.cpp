@@ -23,33 +23,18 @@ constexpr std::size_t sentencies_preparades = 300;
 constexpr Trets_Motor trets_sqlite{
     .marcador = '?', .ordre_catala = " COLLATE CATALA", .clau_oculta = "rowid", .menor = "MIN", .major = "MAX"};
 
-// How a type of the dialect is stored, and its name in the table of columns. By the order of Tipus_Columna.
-struct Tipus_Desat {
-  const char* nom;
-  const char* sql;
+// How a type of the dialect is stored. By the order of Tipus_Columna.
+constexpr const char* tipus_desats[] = {
+    "TEXT COLLATE PLEGAT",
+    "TEXT COLLATE PLEGAT",
+    "INTEGER",
+    "INTEGER",
+    "REAL",
+    "INTEGER",
+    "TEXT",
+    "TEXT",
+    "INTEGER PRIMARY KEY AUTOINCREMENT",
 };
-constexpr Tipus_Desat tipus_desats[] = {
-    {"CODI", "TEXT COLLATE PLEGAT"},
-    {"TEXT", "TEXT COLLATE PLEGAT"},
-    {"LLARG", "INTEGER"},
-    {"CURT", "INTEGER"},
-    {"DOBLE", "REAL"},
-    {"BOOLEA", "INTEGER"},
-    {"DATA", "TEXT"},
-    {"DATA_HORA", "TEXT"},
-    {"AUTONUMERIC", "INTEGER PRIMARY KEY AUTOINCREMENT"},
-};
-
-const Tipus_Desat& Desat(Tipus_Columna tipus) {
-  return tipus_desats[static_cast<std::size_t>(tipus)];
-}
-
-Tipus_Columna Tipus_Llegit(std::string_view nom) {
-  for (std::size_t i = 0; i < std::size(tipus_desats); ++i) {
-    if (nom == tipus_desats[i].nom) return static_cast<Tipus_Columna>(i);
-  }
-  throw Error_Brollador(errors::general, "SQLite", "ESQUEMA: " + std::string(nom));
-}
 
 struct Tancar_Base {
   void operator()(sqlite3* base) const { sqlite3_close_v2(base); }
@@ -131,7 +116,8 @@ class Motor_SQLite final : public Motor {
     for (std::size_t i = 0; i < taula.columnes.size(); ++i) {
       const Columna& columna = taula.columnes[i];
       clau_propia = clau_propia || columna.tipus == Tipus_Columna::Autonumeric;
-      sql += (i == 0 ? "" : ", ") + columna.nom + " " + Desat(columna.tipus).sql + definicio.columnes[i];
+      sql += (i == 0 ? "" : ", ") + columna.nom + " " + tipus_desats[static_cast<std::size_t>(columna.tipus)] +
+             definicio.columnes[i];
     }
     for (const auto& regla : definicio.regles) {
       if (!clau_propia || regla.find("PRIMARY") == std::string::npos) sql += "," + regla;
@@ -165,10 +151,10 @@ class Motor_SQLite final : public Motor {
   }
 
   bool Retenir(const std::string& taula, const Valor& clau) override {
-    return retencio_.Retenir(taula + '\n' + clau.Text());
+    return retencio_.Retenir(Empremta_Fila(taula, clau));
   }
   void Deixar_Anar(const std::string& taula, const Valor& clau) override {
-    retencio_.Deixar_Anar(taula + '\n' + clau.Text());
+    retencio_.Deixar_Anar(Empremta_Fila(taula, clau));
   }
 
   std::string Comprovar_Integritat() override {
@@ -291,37 +277,12 @@ class Motor_SQLite final : public Motor {
   void Llegir_Cataleg() {
     Files_Memoria files;
     Consultar("SELECT TAULA, COLUMNA, TIPUS, CLAU FROM ESQUEMA ORDER BY ORDRE", {}, files, nullptr);
-    Taula taula;
-    std::vector<std::pair<std::int64_t, std::string>> clau;
-    const auto tancar = [&] {
-      if (taula.nom.empty()) return;
-      for (std::int64_t lloc = 1; lloc <= static_cast<std::int64_t>(clau.size()); ++lloc) {
-        for (const auto& [posicio, columna] : clau) {
-          if (posicio == lloc) taula.clau.push_back(columna);
-        }
-      }
-      taules_.Afegir(std::move(taula));
-      taula = {};
-      clau.clear();
-    };
-    for (std::size_t i = 0; i < files.Files(); ++i) {
-      const auto text = [&](std::size_t columna) { return files.Valor_De(i, columna, Tipus_Columna::Text).Text(); };
-      if (text(0) != taula.nom) tancar();
-      taula.nom = text(0);
-      taula.columnes.push_back({text(1), Tipus_Llegit(text(2))});
-      if (const auto lloc = files.Llegir(i, 3).enter; lloc > 0) clau.emplace_back(lloc, text(1));
-    }
-    tancar();
+    taules_ = Llegir_Esquema(files);
   }
 
   void Apuntar_Columnes(const Taula& taula) {
-    for (const auto& columna : taula.columnes) {
-      std::int64_t lloc = 0;
-      for (std::size_t k = 0; k < taula.clau.size(); ++k) {
-        if (Iguals_Plegats(taula.clau[k], columna.nom)) lloc = static_cast<std::int64_t>(k) + 1;
-      }
-      Executar("INSERT INTO ESQUEMA (TAULA, COLUMNA, TIPUS, CLAU) VALUES (?1, ?2, ?3, ?4)",
-               {taula.nom, columna.nom, Desat(columna.tipus).nom, lloc});
+    for (const auto& fila : Files_Esquema(taula)) {
+      Executar("INSERT INTO ESQUEMA (TAULA, COLUMNA, TIPUS, CLAU) VALUES (?1, ?2, ?3, ?4)", fila);
     }
   }
 

@@ -102,7 +102,9 @@ void Recordset::Interior::Llegir() {
   Ordenar_Entre(guardada.traduida.entre, escanejada.literals);
   std::vector<Columna_Resultat> columnes;
   const bool per_descriure = guardada.camps == nullptr;
-  motor().Consultar(guardada.traduida.text, escanejada.literals, files, per_descriure ? &columnes : nullptr);
+  const bool retenir_files = !guardada.traduida.retencio.empty() && motor().Reten_El_Que_Llegeix();
+  motor().Consultar(retenir_files ? guardada.traduida.text + guardada.traduida.retencio : guardada.traduida.text,
+                    escanejada.literals, files, per_descriure ? &columnes : nullptr);
   if (per_descriure) guardada.camps = Descriure(columnes, guardada.traduida);
   descrits = guardada.camps;
   taula_editable = guardada.traduida.taula_editable;
@@ -117,11 +119,13 @@ std::shared_ptr<const std::vector<Camp>> Recordset::Interior::Descriure(const st
   const std::size_t visibles_al_usuari = columnes.size() - (traduida.taula_editable.empty() ? 0 : 1);
   for (std::size_t i = 0; i < visibles_al_usuari; ++i) {
     Camp camp{.nom = columnes[i].nom, .taula = columnes[i].taula, .origen = columnes[i].origen};
+    const bool per_items = traduida.alies.size() == visibles_al_usuari;
+    if (per_items && !traduida.alies[i].empty()) camp.nom = traduida.alies[i];
     const Taula* taula = camp.taula.empty() ? nullptr : motor().Taules().Cercar(camp.taula);
     camp.columna = taula == nullptr ? nullptr : taula->Cercar(camp.origen);
     if (camp.columna != nullptr) {
       camp.tipus = camp.columna->tipus;
-    } else if (traduida.tipus_expressions.size() == visibles_al_usuari && traduida.tipus_expressions[i]) {
+    } else if (per_items && traduida.tipus_expressions[i]) {
       camp.tipus = *traduida.tipus_expressions[i];
     }
     nous->push_back(std::move(camp));

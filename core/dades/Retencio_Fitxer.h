@@ -1,9 +1,9 @@
 // Rows held while they are in edit, told to the other terminals by locks of the operating system on a file beside the
-// database: one byte a row, by a hash of its table and key. The system drops them when the process ends, however.
+// database: one byte a row, at its number. The system drops them when the process ends, however.
 #pragma once
 
+#include <cstdint>
 #include <string>
-#include <string_view>
 
 class Retencio_Fitxer {
  public:
@@ -13,11 +13,11 @@ class Retencio_Fitxer {
   Retencio_Fitxer& operator=(const Retencio_Fitxer&) = delete;
 
   // False when another connection holds the row. Raises 0x80004005 when the file cannot be made.
-  bool Retenir(std::string_view fila);
-  void Deixar_Anar(std::string_view fila);
+  bool Retenir(std::int64_t fila);
+  void Deixar_Anar(std::int64_t fila);
 
  private:
-  bool Pany(std::string_view fila, short tipus);
+  bool Pany(std::int64_t fila, short tipus);
 
   std::string cami_;
   int fitxer_ = -1;

@@ -38,20 +38,6 @@ std::uint32_t Plegar_Caracter(std::uint32_t codi) {
   return static_cast<std::uint32_t>(static_cast<std::int32_t>(codi) + tram->distancia);
 }
 
-void Escriure_Caracter(std::string& desti, std::uint32_t codi) {
-  const auto posar = [&](std::uint32_t octet) { desti.push_back(static_cast<char>(octet)); };
-  if (codi >= 0x110000) return posar(codi - 0x110000);
-  if (codi < 0x80) return posar(codi);
-  if (codi < 0x800) return posar(0xC0 | (codi >> 6)), posar(0x80 | (codi & 0x3F));
-  if (codi < 0x10000) {
-    return posar(0xE0 | (codi >> 12)), posar(0x80 | ((codi >> 6) & 0x3F)), posar(0x80 | (codi & 0x3F));
-  }
-  posar(0xF0 | (codi >> 18));
-  posar(0x80 | ((codi >> 12) & 0x3F));
-  posar(0x80 | ((codi >> 6) & 0x3F));
-  posar(0x80 | (codi & 0x3F));
-}
-
 struct Tancar_Collador {
   void operator()(UCollator* collador) const { ucol_close(collador); }
 };
@@ -68,12 +54,26 @@ UCollator* Collador_Catala() {
 
 }  // namespace
 
+void Afegir_Caracter(std::string& text, std::uint32_t codi) {
+  const auto posar = [&](std::uint32_t octet) { text.push_back(static_cast<char>(octet)); };
+  if (codi >= 0x110000) return posar(codi - 0x110000);  // a byte that was no UTF-8
+  if (codi < 0x80) return posar(codi);
+  if (codi < 0x800) return posar(0xC0 | (codi >> 6)), posar(0x80 | (codi & 0x3F));
+  if (codi < 0x10000) {
+    return posar(0xE0 | (codi >> 12)), posar(0x80 | ((codi >> 6) & 0x3F)), posar(0x80 | (codi & 0x3F));
+  }
+  posar(0xF0 | (codi >> 18));
+  posar(0x80 | ((codi >> 12) & 0x3F));
+  posar(0x80 | ((codi >> 6) & 0x3F));
+  posar(0x80 | (codi & 0x3F));
+}
+
 std::string Plegar(std::string_view text) {
   std::string plegat;
   plegat.reserve(text.size());
   const char* p = text.data();
   const char* fi = p + text.size();
-  while (p < fi) Escriure_Caracter(plegat, Plegar_Caracter(Llegir_Caracter(p, fi)));
+  while (p < fi) Afegir_Caracter(plegat, Plegar_Caracter(Llegir_Caracter(p, fi)));
   return plegat;
 }
 

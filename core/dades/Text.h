@@ -2,9 +2,12 @@
 // table behind it is frozen in this program, so that no index of a database ever depends on a library's version.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
+// A character at the end of a UTF-8 text.
+void Afegir_Caracter(std::string& text, std::uint32_t codi);
 // The text with every letter in its folded (lower) case.
 std::string Plegar(std::string_view text);
 // <0, 0, >0 by the code points of the folded texts: the order of keys.

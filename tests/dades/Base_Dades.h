@@ -5,11 +5,13 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 
 #include "core/dades/Connexio.h"
 #include "core/dades/Error_Brollador.h"
 #include "core/dades/Recordset.h"
+#include "tests/servidor/Base_Servidor.h"
 
 // How a failing test shows a value.
 inline void PrintTo(const Valor& valor, std::ostream* sortida) {
@@ -33,6 +35,7 @@ class Base_Dades : public testing::Test {
     std::string plantilla = (std::filesystem::temp_directory_path() / "brollador-prova-XXXXXX").string();
     carpeta = mkdtemp(plantilla.data());
     cami = carpeta + "/base.db";
+    if (Proves_Al_Servidor()) cami = servidor.emplace().Adreca();
     Crear_Base_Dades(cami);
     connexio.Open(cami);
     connexio.Execute(
@@ -82,7 +85,8 @@ class Base_Dades : public testing::Test {
   }
 
   std::string carpeta;
-  std::string cami;
+  std::string cami;  // or the address at the server
   Connexio connexio;
   Connexio altra;
+  std::optional<Base_Servidor> servidor;  // when the tests run there
 };

@@ -97,6 +97,7 @@ TEST_F(Enllac, A_transaction_without_a_write_holds_no_lock) {
 }
 
 TEST_F(Enllac, A_file_that_another_terminal_keeps_locked_is_an_error_and_then_usable_again) {
+  NOMES_AMB_FITXER();
   Connexio impacient;
   impacient.Open(cami, 50);
   altra.BeginTrans();
@@ -124,6 +125,7 @@ TEST_F(Enllac, A_failed_statement_leaves_the_transaction_usable) {
 }
 
 TEST_F(Enllac, A_disk_that_takes_no_more_undoes_the_transaction_and_nothing_is_written_behind_it) {
+  NOMES_AMB_FITXER();
   connexio.BeginTrans();
   Client("1", "A");
   const Sense_Lloc_Al_Disc limit(std::filesystem::file_size(cami));

@@ -62,8 +62,8 @@ bool Executar_Un(const QString& fitxer, const Opcions& opcions) {
 
 bool Executar_Tots(const Opcions& opcions) {
   const QTemporaryDir base(QDir::tempPath() + "/guions-base-XXXXXX");
-  Crear_Base_De_Guions(base.path());
-  QStringList arguments{"--base", base.path(), "--pictures", opcions.imatges};
+  const Base_De_Guions installacio(base.path());
+  QStringList arguments{"--engine", opcions.motor, "--base", base.path(), "--pictures", opcions.imatges};
   if (opcions.guardar) arguments << "--keep";
   if (opcions.explicar) arguments << "--say";
   return Executar_Cua({opcions.fitxers, arguments, opcions.alhora});
@@ -74,10 +74,12 @@ bool Executar_Tots(const Opcions& opcions) {
 int main(int argc, char** argv) {
   const QCoreApplication programa(argc, argv);
   const Opcions opcions = Llegir_Opcions();
-  if (opcions.motor != QLatin1String("sqlite")) {
-    std::fprintf(stderr, "prova_guio: the engine %s is not yet available\n", qUtf8Printable(opcions.motor));
+  if (opcions.motor != QLatin1String("sqlite") && opcions.motor != QLatin1String("postgres")) {
+    std::fprintf(stderr, "prova_guio: no engine %s\n", qUtf8Printable(opcions.motor));
     return mal_cridat;
   }
+  qputenv("BROLLADOR_MOTOR", opcions.motor.toUtf8());  // for the processes of single scripts too
+  if (Proves_Al_Servidor()) Assegurar_Servidor();
   if (opcions.fitxers.isEmpty()) {
     std::fprintf(stderr, "prova_guio: no script was given\n");
     return mal_cridat;

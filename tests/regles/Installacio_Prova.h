@@ -8,6 +8,7 @@
 #include <cctype>
 #include <deque>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <map>
 #include <memory>
@@ -20,6 +21,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Inici.h"
 #include "schema/Installador.h"
+#include "tests/servidor/Base_Servidor.h"
 
 // An open document form: what rules wrote on it.
 class Document_Fals : public Document_Obert {
@@ -142,10 +144,26 @@ class Sessio_Nova {
   }
 };
 
+// The base installation on the server, made once: copies of it are quick.
+class Model_Servidor {
+ public:
+  static const Model_Servidor& Unic() {
+    static const Model_Servidor model;
+    return model;
+  }
+  std::string Dir_Dades() const { return carpeta_.Cami() + "/brollador"; }
+  const Base_Servidor& Base() const { return base_; }
+
+ private:
+  Model_Servidor() { Crear_Base(Dir_Dades(), base_.Adreca()); }
+  Carpeta_Temporal carpeta_;
+  Base_Servidor base_;
+};
+
 class Installacio_Prova {
  public:
   Installacio_Prova() {
-    Crear_Base(Dir_Dades());
+    Crear();
     sessio.Dir_Dades = Dir_Dades();
     sessio.Fitxer_Ini = Dir_Dades() + "/Brollador.ini";
     sessio.Fitxer_Locals = Dir_Dades() + "/dadeslocals.db";
@@ -166,6 +184,15 @@ class Installacio_Prova {
   Pantalla_Falsa pantalla;
 
  private:
+  void Crear() {
+    if (!Proves_Al_Servidor()) return Crear_Base(Dir_Dades());
+    const Model_Servidor& model = Model_Servidor::Unic();
+    std::filesystem::copy(model.Dir_Dades(), Dir_Dades(), std::filesystem::copy_options::recursive);
+    base_.emplace(model.Base().Nom());
+    std::ofstream(Dir_Dades() + "/Brollador.ini") << base_->Adreca() << '\n';
+  }
+
   Carpeta_Temporal carpeta_;
+  std::optional<Base_Servidor> base_;
   Sessio_Nova sessio_;  // closes the connections before the folder goes
 };

@@ -107,6 +107,7 @@ TEST_F(Base_Installada, has_every_text_in_the_three_languages) {
 }
 
 TEST_F(Base_Installada, has_its_folders_and_the_address_between_quotes) {
+  NOMES_AMB_FITXER();
   EXPECT_TRUE(fs::is_directory(sessio.Dir_Dades + "/copia"));
   EXPECT_TRUE(fs::is_directory(sessio.Dir_Dades + "/Temp"));
   EXPECT_EQ(Contingut(sessio.Fitxer_Ini), "\"" + sessio.Dir_Dades + "/comuna.db\"\n");

@@ -8,6 +8,8 @@
 
 namespace {
 
+const QString nom_del_model = QStringLiteral("/model");  // file with the name of the server's database to copy
+
 void Copiar(const QString& origen, const QString& desti) {
   QFile fitxer(origen);
   if (!fitxer.copy(desti)) throw Error_Guio(QStringLiteral("%1: %2").arg(desti, fitxer.errorString()));
@@ -26,15 +28,29 @@ Connexio& Obrir(Connexio& connexio, const QString& adreca) {
 
 }  // namespace
 
-void Crear_Base_De_Guions(const QString& carpeta) {
-  Crear_Base((carpeta + QStringLiteral("/dades")).toStdString(),
-             (carpeta + QStringLiteral("/comuna.db")).toStdString());
+Base_De_Guions::Base_De_Guions(const QString& carpeta) {
+  std::string compartida = (carpeta + QStringLiteral("/comuna.db")).toStdString();
+  if (Proves_Al_Servidor()) {
+    compartida = servidor_.emplace().Adreca();
+    Escriure(carpeta + nom_del_model, QString::fromStdString(servidor_->Nom()));
+  }
+  Crear_Base((carpeta + QStringLiteral("/dades")).toStdString(), compartida);
 }
 
 Installacio::Installacio(const QString& base, bool guardar) : base_(base), carpeta_(QDir::tempPath() + "/guio-XXXXXX") {
   if (!carpeta_.isValid()) throw Error_Guio(carpeta_.errorString());
   carpeta_.setAutoRemove(!guardar);
-  Copiar(base_ + QStringLiteral("/comuna.db"), Adreca_Comuna());
+  if (!Proves_Al_Servidor()) {
+    Copiar(base_ + QStringLiteral("/comuna.db"), Adreca_Comuna());
+    return;
+  }
+  QFile model(base_ + nom_del_model);
+  if (!model.open(QIODevice::ReadOnly)) throw Error_Guio(model.errorString());
+  servidor_.emplace(model.readAll().toStdString());
+}
+
+QString Installacio::Adreca_Comuna() const {
+  return servidor_ ? QString::fromStdString(servidor_->Adreca()) : Carpeta() + QStringLiteral("/comuna.db");
 }
 
 Terminal& Installacio::De_Numero(int numero) {
@@ -44,7 +60,7 @@ Terminal& Installacio::De_Numero(int numero) {
   QDir().mkpath(terminal->Temporals());
   QDir().mkpath(terminal->Dades() + QStringLiteral("/copia"));
   Copiar(base_ + QStringLiteral("/dades/dadeslocals.db"), terminal->Dades() + QStringLiteral("/dadeslocals.db"));
-  Escriure(terminal->Dades() + QStringLiteral("/Brollador.ini"), Adreca_Comuna() + u'\n');
+  Escriure(terminal->Dades() + QStringLiteral("/Brollador.ini"), u'"' + Adreca_Comuna() + QStringLiteral("\"\n"));
   return *terminal;
 }
 

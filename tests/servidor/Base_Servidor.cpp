@@ -1,0 +1,77 @@
+#include "tests/servidor/Base_Servidor.h"
+
+#include <libpq-fe.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+// A server for this process alone, which ends with it.
+void Engegar_Servidor() {
+  const std::string ordre = "bash '" CARPETA_SERVIDOR "/engegar' " + std::to_string(getpid());
+  const std::unique_ptr<FILE, decltype(&pclose)> sortida(popen(ordre.c_str(), "r"), pclose);
+  char linia[512] = {};
+  if (!sortida || fgets(linia, sizeof linia, sortida.get()) == nullptr) throw std::runtime_error("no server: " + ordre);
+  std::string adreca = linia;
+  adreca.resize(adreca.find_last_not_of('\n') + 1);
+  setenv("BROLLADOR_SERVIDOR", adreca.c_str(), 1);
+}
+
+std::string Servidor() {
+  if (std::getenv("BROLLADOR_SERVIDOR") == nullptr) Engegar_Servidor();
+  return std::getenv("BROLLADOR_SERVIDOR");
+}
+
+std::string Adreca_De(const std::string& base) {
+  std::string adreca = Servidor();
+  return adreca.insert(adreca.find("///") + 3, base);
+}
+
+void Manar(const std::string& sql) {
+  const std::unique_ptr<PGconn, decltype(&PQfinish)> connexio(PQconnectdb(Adreca_De("postgres").c_str()), PQfinish);
+  const std::unique_ptr<PGresult, decltype(&PQclear)> resultat(PQexec(connexio.get(), sql.c_str()), PQclear);
+  const ExecStatusType estat = PQresultStatus(resultat.get());
+  if (estat != PGRES_COMMAND_OK && estat != PGRES_TUPLES_OK) throw std::runtime_error(PQerrorMessage(connexio.get()));
+}
+
+std::string Nom_Nou() {
+  static int comptador = 0;
+  return "prova_" + std::to_string(getpid()) + "_" + std::to_string(++comptador);
+}
+
+}  // namespace
+
+void Assegurar_Servidor() {
+  Servidor();
+}
+
+bool Proves_Al_Servidor() {
+  const char* motor = std::getenv("BROLLADOR_MOTOR");
+  return motor != nullptr && std::string(motor) == "postgres";
+}
+
+Base_Servidor::Base_Servidor() : nom_(Nom_Nou()) {}
+
+Base_Servidor::Base_Servidor(const std::string& model) : nom_(Nom_Nou()) {
+  Manar("CREATE DATABASE " + nom_ + " TEMPLATE " + model + " STRATEGY file_copy");
+}
+
+Base_Servidor::~Base_Servidor() {
+  try {
+    Manar("DROP DATABASE IF EXISTS " + nom_ + " WITH (FORCE)");
+  } catch (const std::runtime_error&) {
+    return;  // a server that a test took away
+  }
+}
+
+std::string Base_Servidor::Adreca() const {
+  return Adreca_De(nom_);
+}
+
+void Base_Servidor::Tallar() const {
+  Manar("SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE datname = '" + nom_ + "'");
+}
