@@ -258,8 +258,8 @@ class Traductor {
   }
 
   std::string Clau_Ordre(Tram item, const Columna* columna, bool agrupa_textos) {
-    const std::string expressio = Expressio(item);
-    if (!Es_Text(columna)) return expressio;
+    std::string expressio = Expressio(item);
+    if (columna == nullptr || !Es_Text(columna)) return expressio;
     if (columna->tipus == Tipus_Columna::Codi) return Plega() ? Plegat(expressio) : expressio;
     const bool d_un_grup = Plega() && agrupa_textos;
     return (d_un_grup ? " MIN(" + expressio + " )" : expressio) + std::string(trets_.ordre_catala);

@@ -239,6 +239,7 @@ void Llegir_Files(const PGresult* resultat, Files_Memoria& files) {
   const int columnes = PQnfields(resultat);
   const int quantes = PQntuples(resultat);
   std::vector<Oid> tipus;
+  tipus.reserve(static_cast<std::size_t>(columnes));
   for (int i = 0; i < columnes; ++i) tipus.push_back(PQftype(resultat, i));
   files.Buidar(static_cast<std::size_t>(columnes));
   for (int fila = 0; fila < quantes; ++fila) {

@@ -23,7 +23,8 @@ void Engegar_Servidor() {
 
 std::string Servidor() {
   if (std::getenv("BROLLADOR_SERVIDOR") == nullptr) Engegar_Servidor();
-  return std::getenv("BROLLADOR_SERVIDOR");
+  const char* adreca = std::getenv("BROLLADOR_SERVIDOR");
+  return adreca == nullptr ? std::string() : adreca;
 }
 
 std::string Adreca_De(const std::string& base) {
