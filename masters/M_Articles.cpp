@@ -28,23 +28,30 @@ std::array<std::string, 10> Sense_Fila(const std::string& codi, const char* desc
   return dades;
 }
 
-std::string Sentencia() {
-  std::string columnes;
-  for (const Camp_Article& camp : camps) columnes += (columnes.empty() ? "" : ", ") + std::string(camp.columna);
-  return "SELECT " + columnes + " FROM ARTICLES WHERE CODI_ART = ";
+std::string Sentencia(const std::string& codi) {
+  static const std::string sense_codi = [] {
+    std::string columnes;
+    for (const Camp_Article& camp : camps) columnes += (columnes.empty() ? "" : ", ") + std::string(camp.columna);
+    return "SELECT " + columnes + " FROM ARTICLES WHERE CODI_ART = ";
+  }();
+  return sense_codi + Text_SQL(codi);
 }
 
 }  // namespace
 
 std::array<std::string, 10> Dades_Article(const std::string& codi) {
-  static const std::string sentencia = Sentencia();
   if (codi == "VAR") return Sense_Fila(codi, "Descripció Manual");
-  const Recordset rs(sentencia + Text_SQL(codi), sessio.Connexio_Comuna);
+  const Recordset rs(Sentencia(codi), sessio.Connexio_Comuna);
   if (rs.RecordCount() == 0) return Sense_Fila(codi, "???");
   std::array<std::string, 10> dades;
   for (std::size_t i = 0; i < camps.size(); ++i)
     dades[i] = Nul_A_Defecte(rs[static_cast<int>(i)], camps[i].defecte).Text();
   return dades;
+}
+
+void Demanar_Article(const std::string& codi) {
+  const bool es_cercara = codi != "VAR" && codi.find('\'') == std::string::npos;  // a quote is refused by the look-up
+  if (es_cercara) sessio.Connexio_Comuna.Demanar(Sentencia(codi));
 }
 
 std::string Magatzem_Article(const std::string& codi) {

@@ -5,8 +5,16 @@
 
 namespace {
 
+std::string Sentencia(const std::string& condicio) {
+  return "SELECT * FROM IVAS WHERE " + condicio;
+}
+
+std::string Condicio_Codi(const std::string& codi) {
+  return "CODI_IVA = " + Text_SQL(codi);
+}
+
 Tipus_IVA Llegir_Tipus(const std::string& condicio) {
-  const Recordset rs("SELECT * FROM IVAS WHERE " + condicio, sessio.Connexio_Comuna);
+  const Recordset rs(Sentencia(condicio), sessio.Connexio_Comuna);
   if (rs.RecordCount() == 0) return {};
   return {rs["CODI_IVA"], rs["DESC_IVA"], rs["PORC_IVA"], rs["RE_IVA"]};
 }
@@ -19,7 +27,11 @@ std::string Condicio_Percentatge(double percentatge) {
 }  // namespace
 
 Tipus_IVA Dades_IVA(const std::string& codi) {
-  return Llegir_Tipus("CODI_IVA = " + Text_SQL(codi));
+  return Llegir_Tipus(Condicio_Codi(codi));
+}
+
+void Demanar_IVA(const std::string& codi) {
+  sessio.Connexio_Comuna.Demanar(Sentencia(Condicio_Codi(codi)));
 }
 
 Tipus_IVA Dades_IVA_Percentatge(double percentatge) {

@@ -13,6 +13,7 @@ struct Tipus_IVA {
 };
 
 Tipus_IVA Dades_IVA(const std::string& codi);
+void Demanar_IVA(const std::string& codi);  // Dades_IVA will be wanted soon (Connexio::Demanar)
 // The percentage goes into the statement as its plain text, with a comma: 7,5 is no statement and raises that error.
 Tipus_IVA Dades_IVA_Percentatge(double percentatge);
 std::string Codi_IVA_Percentatge(double percentatge);  // first by key; empty when none

@@ -2,6 +2,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "masters/M_Articles.h"
+#include "masters/M_IVAs.h"
 #include "payments/M_Pagaments.h"
 #include "sales/M_Comandes.h"
 #include "sales/M_Linies.h"
@@ -18,7 +19,14 @@ bool Es_Usuari_Sense_Comandes() {
   return sessio.P_Comandes == "X";
 }
 
+// What the line needs to know, asked for at once.
+void Demanar_Dades_Linia(const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
+  if (cap.iva) Demanar_IVA(linia.iva_article);
+  Demanar_Article(linia.article);
+}
+
 void Escriure_Linia(Recordset& linies, const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
+  Demanar_Dades_Linia(cap, linia);
   linies.AddNew();
   linies.Set("NUMALB_AL", cap.numero);
   linies.Set("EMPRESA_AL", cap.empresa);
@@ -42,7 +50,8 @@ void Escriure_Linia(Recordset& linies, const Capcalera_Oberta& cap, const Linia_
   linies.Set("DTE_AL", resultat.dte);
   linies.Set("COMANDA_AL", linia.comanda);
   linies.Set("COMANDA_LIN_AL", std::int64_t{linia.comanda_lin});
-  Servir_Linia_Comanda(linia.comanda, cap.empresa, linia.comanda_lin, linia.unitats);
+  if (linia.comanda != 0) Servir_Linia_Comanda(linia.comanda, cap.empresa, linia.comanda_lin, linia.unitats);
+  Demanar_Grups(tipus_albara, cap.numero, cap.empresa);
   linies.Update();
 }
 

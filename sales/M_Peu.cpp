@@ -19,15 +19,25 @@ struct Grup {
   double net = 0;
 };
 
+std::string SQL_Grups(const Document& document) {
+  const Taula_Document& lin = document.tipus.lin;
+  const std::string taxes = lin.Columna("PORC_IVA") + ", " + lin.Columna("PORC_RE");
+  return "SELECT " + taxes + ", SUM(" + lin.Columna("IMPORT_NET") + ") AS IMPORT_NET, SUM(" +
+         lin.Columna("IMPORT_BRUT") + ") AS IMPORT_BRUT FROM " + std::string(lin.nom) +
+         Condicio_Document(document.tipus, lin, document.numero, document.empresa) + " GROUP BY " + taxes;
+}
+
+std::string SQL_Total(const Document& document) {
+  const Taula_Document& peu = document.tipus.peu;
+  return "SELECT SUM(" + peu.Columna("IMPORT") + ") AS IMPORT_BRUT FROM " + std::string(peu.nom) +
+         Condicio_Document(document.tipus, peu, document.numero, document.empresa);
+}
+
 // One group a pair of rates. Two groups at one IVA and different RE fall on one row, and the second one wins.
 std::vector<Grup> Llegir_Grups(const Document& document) {
   const Taula_Document& lin = document.tipus.lin;
-  const std::string taxes = lin.Columna("PORC_IVA") + ", " + lin.Columna("PORC_RE");
   std::vector<Grup> grups;
-  Recordset rs("SELECT " + taxes + ", SUM(" + lin.Columna("IMPORT_NET") + ") AS IMPORT_NET, SUM(" +
-                   lin.Columna("IMPORT_BRUT") + ") AS IMPORT_BRUT FROM " + std::string(lin.nom) +
-                   Condicio_Document(document.tipus, lin, document.numero, document.empresa) + " GROUP BY " + taxes,
-               sessio.Connexio_Comuna);
+  Recordset rs(SQL_Grups(document), sessio.Connexio_Comuna);
   for (; !rs.Eof(); rs.MoveNext())
     grups.push_back({Nul_A_Defecte(rs[lin.Columna("PORC_IVA")]).Doble(), Nul_A_Defecte(rs["IMPORT_NET"]).Doble()});
   return grups;
@@ -78,6 +88,7 @@ void Calcular_Peu(const Tipus_Document& tipus, const Valor& numero, const std::s
   const Document document{tipus, numero, empresa};
   for (const Grup& grup : Llegir_Grups(document)) {
     Refer_Fila(document, grup, obert.Re_Marcat());
+    sessio.Connexio_Comuna.Demanar(SQL_Total(document));
     obert.Refrescar_Peu();
     sessio.pantalla->Processar_Events();
   }
@@ -99,11 +110,13 @@ void Calcular_Peu_Document(const Tipus_Document& tipus, const Valor& numero, con
 }
 
 double Total_Peu(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
-  const Recordset rs("SELECT SUM(" + tipus.peu.Columna("IMPORT") + ") AS IMPORT_BRUT FROM " +
-                         std::string(tipus.peu.nom) + Condicio_Document(tipus, tipus.peu, numero, empresa),
-                     sessio.Connexio_Comuna);
+  const Recordset rs(SQL_Total({tipus, numero, empresa}), sessio.Connexio_Comuna);
   const Valor total = rs["IMPORT_BRUT"];
   return total.Es_Nul() ? 0 : Arrodonir(total.Doble(), 2);
+}
+
+void Demanar_Grups(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  sessio.Connexio_Comuna.Demanar(SQL_Grups({tipus, numero, empresa}));
 }
 
 void Buidar_Peu(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {

@@ -13,5 +13,7 @@ void Calcular_Peu_Document(const Tipus_Document& tipus, const Valor& numero, con
                            double porc_re);
 // Euros: the sum of the foot rounded to 2 decimals; 0 without rows.
 double Total_Peu(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// The sums of the lines will be wanted as soon as the line that is being written stands (Connexio::Demanar).
+void Demanar_Grups(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 // Where the set of rates may have shrunk, before Calcular_Peu.
 void Buidar_Peu(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);

@@ -12,6 +12,11 @@ bool Text_Cert(const std::string& text) {
   return Nul_A_Defecte(text).Boolea();
 }
 
+std::string SQL_Estoc(const std::string& article, const std::string& magatzem) {
+  return "SELECT * FROM STOCK WHERE EMPRESA_ST = " + Text_SQL(sessio.Empresa_Actual) +
+         " AND CODI_ART_ST = " + Text_SQL(article) + " AND ALMACEN_ST = " + Text_SQL(magatzem);
+}
+
 void Exigir_Estoc(double unitats, bool stock_neg) {
   if (unitats >= 0 || stock_neg) return;
   throw Error_Brollador(errors::sense_estoc, "Actualitzar_Stock", "Operació fallida. No hi ha prou STOCK!");
@@ -52,6 +57,7 @@ Article_Estoc Preparar_Article_Estoc(const std::string& codi) {
   const auto dades = Dades_Article(codi);
   const std::string& magatzem = dades[article::magatzem];
   const bool porta_stock = Text_Cert(dades[article::porta_stock]);
+  if (porta_stock) sessio.Connexio_Comuna.Demanar(SQL_Estoc(codi, magatzem), Bloqueig::Optimista);
   return {.article = codi,
           .magatzem = magatzem,
           .minim = Text_Cert(dades[article::stock_minim]) ? -1.0 : 0.0,
@@ -92,9 +98,7 @@ void Moviment_Traspas(double signe, const std::string& article, bool porta_stock
 void Actualitzar_Stock(const std::string& article, double minim, const std::string& magatzem, double delta,
                        bool stock_neg, bool porta_stock) {
   if (!porta_stock) return;
-  Recordset rs("SELECT * FROM STOCK WHERE EMPRESA_ST = " + Text_SQL(sessio.Empresa_Actual) +
-                   " AND CODI_ART_ST = " + Text_SQL(article) + " AND ALMACEN_ST = " + Text_SQL(magatzem),
-               sessio.Connexio_Comuna, Bloqueig::Optimista);
+  Recordset rs(SQL_Estoc(article, magatzem), sessio.Connexio_Comuna, Bloqueig::Optimista);
   const bool existeix = rs.RecordCount() > 0;
   const double saldo = delta + (existeix ? Nul_A_Defecte(rs["UNIDADES_ST"]).Doble() : 0);
   Exigir_Estoc(saldo, stock_neg);
@@ -117,21 +121,13 @@ void Afegir_Moviment(const std::string& article, const std::string& magatzem, do
                      const std::string& document, bool porta_stock) {
   if (!porta_stock) return;
   const Data_Hora data = Data_Hora_Servidor();
-  // The journal is only ever added to: the statement is there for a set with its columns.
-  Recordset rs("SELECT * FROM MOVIMIENTOS WHERE EMPRESA_MOV = " + Text_SQL(sessio.Empresa_Actual) +
-                   " AND ARTICULO_MOV = " + Text_SQL(article) + " AND FECHA_MOV = " + Data_SQL(data) +
-                   " AND TIPO_MOV = " + Text_SQL(tipus) + " AND ALMACEN_MOV = " + Text_SQL(magatzem) +
-                   " AND DOCUMENTO_MOV = " + Text_SQL(document),
-               sessio.Connexio_Comuna, Bloqueig::Optimista);
-  rs.AddNew();
-  rs.Set("EMPRESA_MOV", sessio.Empresa_Actual);
-  rs.Set("ARTICULO_MOV", article);
-  rs.Set("FECHA_MOV", data);
-  rs.Set("TIPO_MOV", tipus);
-  rs.Set("ALMACEN_MOV", magatzem);
-  rs.Set("DOCUMENTO_MOV", document);
-  rs.Set("UNIDADES_MOV", unitats);
-  rs.Update();
+  sessio.Connexio_Comuna.Afegir_Fila("MOVIMIENTOS", {{"EMPRESA_MOV", sessio.Empresa_Actual},
+                                                     {"ARTICULO_MOV", article},
+                                                     {"FECHA_MOV", data},
+                                                     {"TIPO_MOV", tipus},
+                                                     {"ALMACEN_MOV", magatzem},
+                                                     {"DOCUMENTO_MOV", document},
+                                                     {"UNIDADES_MOV", unitats}});
 }
 
 bool Stock_Negatiu_Permes(const std::string& magatzem) {

@@ -48,6 +48,23 @@ void Connexio::Execute_Despres(std::string_view sentencia) {
   motor().Executar_Despres(traduida.text, escanejada.literals);
 }
 
+void Connexio::Afegir_Fila(std::string_view nom, const std::vector<std::pair<std::string_view, Valor>>& valors) {
+  const Taula* taula = Taules().Cercar(nom);
+  if (taula == nullptr) Llancar_Error(errors::sentencia, "Connexio", std::string(nom));
+  std::string columnes;
+  std::string marcadors;
+  std::vector<Valor> parametres;
+  for (const auto& [camp, valor] : valors) {
+    const Columna* columna = taula->Cercar(camp);
+    if (columna == nullptr) Llancar_Error(errors::camp_no_trobat, "Connexio", std::string(camp));
+    parametres.push_back(Convertir_A_Columna(valor, columna->tipus));
+    columnes += (columnes.empty() ? "\"" : ", \"") + columna->nom + "\"";
+    marcadors += (marcadors.empty() ? "" : ", ") + (motor().Trets().marcador + std::to_string(parametres.size()));
+  }
+  motor().Executar_Despres("INSERT INTO \"" + taula->nom + "\" (" + columnes + ") VALUES (" + marcadors + ")",
+                           parametres);
+}
+
 void Connexio::BeginTrans() {
   motor().BeginTrans();
 }

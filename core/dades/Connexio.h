@@ -8,12 +8,15 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/dades/Cataleg.h"
 #include "core/dades/Valor.h"
 
 class Motor;
+
+enum class Bloqueig { Lectura = 1, Pessimista = 2, Optimista = 3 };
 
 class Connexio {
  public:
@@ -36,6 +39,11 @@ class Connexio {
   // A write of a transaction whose answer nobody waits for. With a server it travels with the next statement, and an
   // error of its own comes up there; with a file it is Execute.
   void Execute_Despres(std::string_view sentencia);
+  // A new row of a table, written like that.
+  void Afegir_Fila(std::string_view taula, const std::vector<std::pair<std::string_view, Valor>>& valors);
+  // A set that will be opened soon, in this transaction. With a server it is read on the way of the next statement, and
+  // opening it then costs no trip; with a file it does nothing.
+  void Demanar(std::string_view font, Bloqueig bloqueig = Bloqueig::Lectura);
 
   void BeginTrans();
   void CommitTrans();

@@ -118,9 +118,9 @@ void Enllac_PostgreSQL::Encuar(std::string sql, std::vector<Valor> parametres) {
   cua_.push_back({std::move(sql), std::move(parametres)});
 }
 
-Resultat_PG Enllac_PostgreSQL::Enviar() {
+std::vector<Resultat_PG> Enllac_PostgreSQL::Enviar() {
   const std::vector<Ordre> ordres = std::exchange(cua_, {});
-  if (ordres.empty()) return nullptr;
+  if (ordres.empty()) return {};
   ++viatges_;
   return ordres.size() == 1 ? Una_Ordre(ordres.front()) : Totes_Juntes(ordres);
 }
@@ -159,18 +159,20 @@ void Enllac_PostgreSQL::Oblidar_Preparada(const std::string& clau) {
 }
 
 // The usual case: one statement that the server knows already.
-Resultat_PG Enllac_PostgreSQL::Una_Ordre(const Ordre& ordre) {
+std::vector<Resultat_PG> Enllac_PostgreSQL::Una_Ordre(const Ordre& ordre) {
   const std::string nom = Nom_Preparada(Clau_De(ordre.sql, ordre.parametres));
   if (nom.empty()) return Totes_Juntes({ordre});
   const Parametres_PG p = Preparar_Parametres(ordre.parametres);
   Resultat_PG resultat(PQexecPrepared(connexio_.get(), nom.c_str(), static_cast<int>(p.punters.size()),
                                       p.punters.data(), p.mides.data(), nullptr, 0));
   Exigir_Bo(resultat.get());
-  return resultat;
+  std::vector<Resultat_PG> resultats;
+  resultats.push_back(std::move(resultat));
+  return resultats;
 }
 
 // All orders in one trip. After the first that fails the server passes over the rest, and says so of each.
-Resultat_PG Enllac_PostgreSQL::Totes_Juntes(const std::vector<Ordre>& ordres) {
+std::vector<Resultat_PG> Enllac_PostgreSQL::Totes_Juntes(const std::vector<Ordre>& ordres) {
   Viatge viatge;
   const bool enviat = PQenterPipelineMode(connexio_.get()) == 1 && Enviar_Sobrants(viatge) &&
                       Enviar_Ordres(ordres, viatge) && PQpipelineSync(connexio_.get()) == 1;
@@ -181,7 +183,7 @@ Resultat_PG Enllac_PostgreSQL::Totes_Juntes(const std::vector<Ordre>& ordres) {
   }
   if (!enviat || !Es_Viu()) Llancar_Connexio();
   if (viatge.dolent) Exigir_Bo(viatge.dolent.get());
-  return std::move(viatge.ultim);
+  return std::move(viatge.resultats);
 }
 
 bool Enllac_PostgreSQL::Enviar_Sobrants(Viatge& viatge) {
@@ -219,7 +221,7 @@ void Enllac_PostgreSQL::Rebre(Viatge& viatge) {
     if (!resultat) return;
     const ExecStatusType estat = PQresultStatus(resultat.get());
     resposta.bona = estat == PGRES_COMMAND_OK || estat == PGRES_TUPLES_OK;
-    if (resposta.bona && resposta.d_una_ordre) viatge.ultim = std::move(resultat);
+    if (resposta.bona && resposta.d_una_ordre) viatge.resultats.push_back(std::move(resultat));
     if (!resposta.bona && !viatge.dolent) viatge.dolent = std::move(resultat);
     while (const Resultat_PG resta{PQgetResult(connexio_.get())}) {
     }

@@ -30,11 +30,11 @@ class Enllac_PostgreSQL {
   Enllac_PostgreSQL& operator=(const Enllac_PostgreSQL&) = delete;
 
   void Encuar(std::string sql, std::vector<Valor> parametres = {});
-  bool Hi_Ha_Cua() const { return !cua_.empty(); }
   void Oblidar_Cua() { cua_.clear(); }
-  // Sends the queue and waits. The answer of its last order; the error of the first one that failed. The queue is empty
-  // afterwards, however it ended.
-  Resultat_PG Enviar();
+  std::size_t En_Cua() const { return cua_.size(); }
+  // Sends the queue and waits. The answers in the order of the queue; the error of the first one that failed. The queue
+  // is empty afterwards, however it ended.
+  std::vector<Resultat_PG> Enviar();
   // A statement at once, as it stands; it may hold several. Used while connecting and creating.
   Resultat_PG Executar_Directe(const std::string& sql);
 
@@ -69,7 +69,7 @@ class Enllac_PostgreSQL {
   };
   struct Viatge {
     std::vector<Resposta> respostes;
-    Resultat_PG ultim;
+    std::vector<Resultat_PG> resultats;  // of the orders
     Resultat_PG dolent;
   };
 
@@ -79,8 +79,8 @@ class Enllac_PostgreSQL {
   std::string Nom_Preparada(const std::string& clau);
   std::string Apuntar_Preparada(const std::string& clau);
   void Oblidar_Preparada(const std::string& clau);
-  Resultat_PG Una_Ordre(const Ordre& ordre);
-  Resultat_PG Totes_Juntes(const std::vector<Ordre>& ordres);
+  std::vector<Resultat_PG> Una_Ordre(const Ordre& ordre);
+  std::vector<Resultat_PG> Totes_Juntes(const std::vector<Ordre>& ordres);
   bool Enviar_Sobrants(Viatge& viatge);
   bool Enviar_Ordres(const std::vector<Ordre>& ordres, Viatge& viatge);
   void Rebre(Viatge& viatge);

@@ -35,6 +35,9 @@ class Motor {
   virtual void Executar_Despres(const std::string& sql, const std::vector<Valor>& parametres) {
     Executar(sql, parametres);
   }
+  // A read that will be wanted soon, in this transaction: it may travel behind the next statement. Consultar of the
+  // same statement then finds its answer, unless its tables were written meanwhile.
+  virtual void Demanar(const std::string& /*sql*/, const std::vector<Valor>& /*parametres*/) {}
   // A definition of a table or index, entered in the catalogue.
   virtual void Definir(const Definicio& definicio) = 0;
 
@@ -42,9 +45,9 @@ class Motor {
   virtual void CommitTrans() = 0;
   virtual void RollbackTrans() = 0;
   virtual bool En_Transaccio() const = 0;
-  // Rows read to be written have to be held by their statement: true in a transaction that has begun, on an engine
-  // where others write at the same time.
-  virtual bool Reten_El_Que_Llegeix() const { return false; }
+  // Rows read to be written have to be held by their statement, in a transaction that has begun on an engine where
+  // others write at the same time: a number of that transaction, as long as what it read is held. 0 otherwise.
+  virtual std::int64_t Transaccio_Que_Reten() const { return 0; }
   // Trips to a server so far; none for a file.
   virtual std::int64_t Viatges() const { return 0; }
 

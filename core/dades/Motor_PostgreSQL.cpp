@@ -1,6 +1,7 @@
 // The engine of an office with a server. Several terminals write at once: rows read to be written inside a
 // transaction are held until it ends, and each write stands on a savepoint, so that a statement that fails leaves the
 // transaction usable.
+#include <algorithm>
 #include <map>
 
 #include "core/dades/Enllac_PostgreSQL.h"
@@ -43,15 +44,21 @@ class Motor_PostgreSQL final : public Motor {
 
   int Consultar(const std::string& sql, const std::vector<Valor>& parametres, Files_Memoria& files,
                 std::vector<Columna_Resultat>* columnes) override {
-    const Resultat_PG resultat = Passar(sql, parametres);
+    Resultat_PG resultat = Ja_Demanada(sql, parametres);
+    if (!resultat) resultat = Passar(sql, parametres);
     Llegir_Files(resultat.get(), files);
     if (columnes != nullptr) *columnes = Columnes_De(resultat.get());
     return Escriu(sql) ? Files_Tocades(resultat.get()) : 0;
   }
 
+  void Demanar(const std::string& sql, const std::vector<Valor>& parametres) override {
+    if (marcada_) demanades_.push_back({sql, parametres, nullptr});
+  }
+
   void Executar_Despres(const std::string& sql, const std::vector<Valor>& parametres) override {
     if (!marcada_) return static_cast<void>(Executar(sql, parametres));
     Preparar_Cami(true);
+    Oblidar_Demanades_De(sql);
     enllac_.Encuar(sql, parametres);
   }
 
@@ -91,7 +98,7 @@ class Motor_PostgreSQL final : public Motor {
   }
 
   bool En_Transaccio() const override { return marcada_; }
-  bool Reten_El_Que_Llegeix() const override { return comencada_; }
+  std::int64_t Transaccio_Que_Reten() const override { return comencada_ ? numero_ : 0; }
   std::int64_t Viatges() const override { return enllac_.Viatges(); }
 
   std::string Condicio_Identica(const Columna& columna, int parametre) const override {
@@ -133,10 +140,41 @@ class Motor_PostgreSQL final : public Motor {
     return Passar_Un_Cop(sql, parametres);
   }
 
+  // Behind the statement go the reads that were asked for, if nothing failed before them.
   Resultat_PG Passar_Un_Cop(const std::string& sql, const std::vector<Valor>& parametres) {
     Preparar_Cami(Escriu(sql));
+    if (Escriu(sql)) Oblidar_Demanades_De(sql);
+    const std::size_t lloc = enllac_.En_Cua();
     enllac_.Encuar(sql, parametres);
-    return Enviar();
+    for (const Demanada& demanada : demanades_) {
+      if (!demanada.resposta) enllac_.Encuar(demanada.sql, demanada.parametres);
+    }
+    auto resultats = Enviar();
+    std::size_t seguent = lloc;
+    for (Demanada& demanada : demanades_) {
+      if (!demanada.resposta) demanada.resposta = std::move(resultats.at(++seguent));
+    }
+    return std::move(resultats.at(lloc));
+  }
+
+  // The answer of a read that was asked for; it serves once.
+  Resultat_PG Ja_Demanada(const std::string& sql, const std::vector<Valor>& parametres) {
+    const auto it = std::find_if(demanades_.begin(), demanades_.end(), [&](const Demanada& demanada) {
+      return demanada.sql == sql && demanada.parametres == parametres;
+    });
+    if (it == demanades_.end()) return nullptr;
+    Resultat_PG resposta = std::move(it->resposta);
+    demanades_.erase(it);
+    return resposta;
+  }
+
+  // What was read of a table that is being written is not what it will hold.
+  void Oblidar_Demanades_De(const std::string& escriptura) {
+    const std::size_t obre = std::min(escriptura.find('"'), escriptura.size());
+    const std::string taula = escriptura.substr(obre, escriptura.find('"', obre + 1) - obre + 1);  // the first name
+    std::erase_if(demanades_, [&](const Demanada& demanada) {
+      return demanada.resposta && demanada.sql.find(taula) != std::string::npos;
+    });
   }
 
   // What has to go before a statement: a connection that lives, the start of the transaction at its first write, and
@@ -148,6 +186,7 @@ class Motor_PostgreSQL final : public Motor {
       enllac_.Encuar("BEGIN");
       comencada_ = true;
       canvis_ = true;
+      ++numero_;
     }
     if (comencada_ && canvis_) {
       if (punt_) enllac_.Encuar("RELEASE SAVEPOINT punt");
@@ -158,11 +197,12 @@ class Motor_PostgreSQL final : public Motor {
     canvis_ = canvis_ || (comencada_ && escriu);
   }
 
-  Resultat_PG Enviar() {
+  std::vector<Resultat_PG> Enviar() {
     enviada_ = comencada_;
     try {
       return enllac_.Enviar();
     } catch (const Error_Brollador&) {
+      demanades_.clear();
       if (enviada_ && enllac_.Es_Viu()) Tornar_Al_Punt();
       throw;
     }
@@ -174,6 +214,7 @@ class Motor_PostgreSQL final : public Motor {
       enllac_.Encuar("ROLLBACK TO SAVEPOINT punt");
       enllac_.Enviar();
       canvis_ = false;
+      ++numero_;  // rows read since the savepoint are not held any more
     } catch (const Error_Brollador&) {
       trencada_ = true;  // the statement's own error is what the user has to see
     }
@@ -185,6 +226,7 @@ class Motor_PostgreSQL final : public Motor {
   }
 
   void Oblidar_Enviada() {
+    demanades_.clear();
     enllac_.Oblidar_Cua();
     comencada_ = enviada_ = punt_ = canvis_ = trencada_ = false;
   }
@@ -222,9 +264,17 @@ class Motor_PostgreSQL final : public Motor {
     return columnes;
   }
 
+  struct Demanada {
+    std::string sql;
+    std::vector<Valor> parametres;
+    Resultat_PG resposta;
+  };
+
   Enllac_PostgreSQL enllac_;
+  std::vector<Demanada> demanades_;
   Cataleg taules_;
   std::map<std::pair<Oid, int>, std::pair<std::string, std::string>> noms_columnes_;
+  std::int64_t numero_ = 0;
   bool marcada_ = false;    // BeginTrans was called
   bool comencada_ = false;  // the server's transaction runs, or is in the queue
   bool enviada_ = false;    // it was sent
@@ -265,7 +315,7 @@ void Crear_Base_PostgreSQL(const std::string& adreca) {
   }
   Enllac_PostgreSQL servidor(Amb_Base(adreca, "postgres"), 0);
   servidor.Encuar("SELECT datname FROM pg_database WHERE datname = $1", {nom});
-  if (Primer_Text(servidor.Enviar()).empty()) {
+  if (Primer_Text(servidor.Enviar().front()).empty()) {
     servidor.Executar_Directe("CREATE DATABASE \"" + nom + "\" ENCODING 'UTF8' TEMPLATE template0");
   }
   Enllac_PostgreSQL base(adreca, 0);

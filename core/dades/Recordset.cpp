@@ -23,6 +23,26 @@ struct Canvi {
   Valor valor;
 };
 
+// A set's statement on its way to the engine.
+struct Lectura {
+  Motor::Traduccio_Guardada& guardada;
+  std::string sql;
+  std::vector<Valor> parametres;
+  std::int64_t retinguda;  // the transaction that holds its rows; 0: none
+};
+
+Lectura Preparar_Lectura(Motor& motor, const std::string& font, Bloqueig bloqueig, std::string_view taula_unica) {
+  const bool nom_de_taula = font.find(' ') == std::string::npos;
+  Sentencia_Escanejada escanejada = Escanejar(nom_de_taula ? "SELECT * FROM " + font : font);
+  std::string_view editable;
+  if (bloqueig != Bloqueig::Lectura) editable = taula_unica.empty() ? std::string_view("*") : taula_unica;
+  Motor::Traduccio_Guardada& guardada = motor.Traduccio(escanejada.forma, editable);
+  Ordenar_Entre(guardada.traduida.entre, escanejada.literals);
+  const std::int64_t retinguda = guardada.traduida.retencio.empty() ? 0 : motor.Transaccio_Que_Reten();
+  std::string sql = guardada.traduida.text + (retinguda == 0 ? std::string() : guardada.traduida.retencio);
+  return {guardada, std::move(sql), std::move(escanejada.literals), retinguda};
+}
+
 }  // namespace
 
 struct Recordset::Interior {
@@ -36,6 +56,7 @@ struct Recordset::Interior {
   Files_Memoria files;
   std::string taula_editable;  // empty: the set cannot be written
   std::size_t columna_clau = 0;
+  std::int64_t retingudes = 0;  // the transaction in which nobody else can change the rows; 0: none
 
   std::string text_filtre;
   std::vector<Condicio_Filtre> filtre;
@@ -87,6 +108,7 @@ struct Recordset::Interior {
   void Exigir_Editable() const;
   void Retenir();
   void Acabar_Edicio();
+  void Escriure(const std::string& sql, const std::vector<Valor>& parametres) const;
   void Desar_Canvi();
   void Desar_Alta();
   const Columna& Columna_De(const Camp& camp) const;
@@ -94,18 +116,13 @@ struct Recordset::Interior {
 };
 
 void Recordset::Interior::Llegir() {
-  const bool nom_de_taula = font.find(' ') == std::string::npos;
-  Sentencia_Escanejada escanejada = Escanejar(nom_de_taula ? "SELECT * FROM " + font : font);
-  std::string_view editable;
-  if (bloqueig != Bloqueig::Lectura) editable = taula_unica.empty() ? std::string_view("*") : taula_unica;
-  Motor::Traduccio_Guardada& guardada = motor().Traduccio(escanejada.forma, editable);
-  Ordenar_Entre(guardada.traduida.entre, escanejada.literals);
+  const Lectura lectura = Preparar_Lectura(motor(), font, bloqueig, taula_unica);
+  Motor::Traduccio_Guardada& guardada = lectura.guardada;
   std::vector<Columna_Resultat> columnes;
   const bool per_descriure = guardada.camps == nullptr;
-  const bool retenir_files = !guardada.traduida.retencio.empty() && motor().Reten_El_Que_Llegeix();
-  motor().Consultar(retenir_files ? guardada.traduida.text + guardada.traduida.retencio : guardada.traduida.text,
-                    escanejada.literals, files, per_descriure ? &columnes : nullptr);
+  motor().Consultar(lectura.sql, lectura.parametres, files, per_descriure ? &columnes : nullptr);
   if (per_descriure) guardada.camps = Descriure(columnes, guardada.traduida);
+  retingudes = lectura.retinguda;
   descrits = guardada.camps;
   taula_editable = guardada.traduida.taula_editable;
   columna_clau = descrits->size();
@@ -174,6 +191,12 @@ const Columna& Recordset::Interior::Columna_De(const Camp& camp) const {
   return *camp.columna;
 }
 
+// A write of the current row. One that is held is there for certain: nobody waits for the answer.
+void Recordset::Interior::Escriure(const std::string& sql, const std::vector<Valor>& parametres) const {
+  if (retingudes != 0 && retingudes == motor().Transaccio_Que_Reten()) return motor().Executar_Despres(sql, parametres);
+  if (motor().Executar(sql, parametres) == 0) Llancar_Error(errors::concurrencia, "Recordset");
+}
+
 // UPDATE of the row by its hidden key, if its columns still hold what was read.
 void Recordset::Interior::Desar_Canvi() {
   if (canvis.empty()) return;
@@ -193,8 +216,7 @@ void Recordset::Interior::Desar_Canvi() {
     parametres.push_back(files.Valor_De(fila, camp, Camps()[camp].tipus));
     on += " AND " + motor().Condicio_Identica(Columna_De(Camps()[camp]), static_cast<int>(parametres.size()));
   }
-  const std::string sql = "UPDATE \"" + taula_editable + "\" SET " + posar + on;
-  if (motor().Executar(sql, parametres) == 0) Llancar_Error(errors::concurrencia, "Recordset");
+  Escriure("UPDATE \"" + taula_editable + "\" SET " + posar + on, parametres);
   for (const auto& canvi : canvis) files.Posar(fila, static_cast<std::size_t>(canvi.camp), canvi.valor);
 }
 
@@ -221,6 +243,7 @@ Files_Memoria Recordset::Interior::Inserir() {
 
 void Recordset::Interior::Desar_Alta() {
   const Files_Memoria nova = Inserir();
+  if (files.Files() == 0) retingudes = motor().Transaccio_Que_Reten();
   files.Afegir_Fila_Buida();
   files.Copiar_Fila(files.Files() - 1, nova, 0);
   if (!text_filtre.empty()) visibles.push_back(files.Files() - 1);
@@ -413,7 +436,7 @@ void Recordset::Delete() {
   const std::size_t fila = d_->Fila_Actual();
   const std::string sql = "DELETE FROM \"" + d_->taula_editable + "\" WHERE " +
                           std::string(d_->motor().Trets().clau_oculta) + " = " + d_->motor().Trets().marcador + "1";
-  if (d_->motor().Executar(sql, {d_->Clau(fila)}) == 0) Llancar_Error(errors::concurrencia, "Recordset");
+  d_->Escriure(sql, {d_->Clau(fila)});
   d_->files.Esborrar_Fila(fila);
   d_->Filtrar();
   d_->posicio = std::min(d_->posicio, d_->Quantes() - 1);
@@ -421,6 +444,11 @@ void Recordset::Delete() {
 
 Edicio Recordset::EditMode() const {
   return d_->edicio;
+}
+
+void Connexio::Demanar(std::string_view font, Bloqueig bloqueig) {
+  const Lectura lectura = Preparar_Lectura(motor(), std::string(font), bloqueig, {});
+  motor().Demanar(lectura.sql, lectura.parametres);
 }
 
 // ---- The registry -----------------------------------------------------------------------------------------------

@@ -15,11 +15,9 @@
 #include <vector>
 
 #include "core/dades/Cataleg.h"
+#include "core/dades/Connexio.h"
 #include "core/dades/Valor.h"
 
-class Connexio;
-
-enum class Bloqueig { Lectura = 1, Pessimista = 2, Optimista = 3 };
 enum class Edicio { Cap, Canvi, Alta };
 
 class Recordset {
