@@ -5,72 +5,15 @@
 
 #include "bench/Base_Nua.h"
 #include "bench/Mesura.h"
+#include "bench/Nota_Oberta.h"
 #include "core/dades/Dates.h"
 #include "sales/M_Albarans.h"
 #include "tests/regles/Installacio_Prova.h"
 
 namespace {
 
-constexpr const char* empresa = "B00000000";
-constexpr int articles = 600;
 constexpr int linies_nota_curta = 12;
 constexpr int linies_nota_llarga = 397;  // before the measured ones
-
-std::string Codi_Article(int n) {
-  return "ART" + std::to_string(1000 + n % articles);
-}
-
-void Sembrar(Connexio& connexio) {
-  connexio.BeginTrans();
-  for (int i = 0; i < articles; ++i) {
-    const std::string codi = Text_SQL(Codi_Article(i));
-    connexio.Execute(
-        "INSERT INTO ARTICLES (CODI_ART, DESCRIPCIO_ART, IVA_ART, COST_ART, STOCK_ART, STOCK_MINIM_ART, MAGATZEM_ART, "
-        "ACTIU_ART) VALUES(" +
-        codi + ", 'Article de la mesura " + std::to_string(i) + "', 'GN', 10, -1, 0, '1', -1)");
-    connexio.Execute("INSERT INTO STOCK (EMPRESA_ST, CODI_ART_ST, ALMACEN_ST, UNIDADES_ST) VALUES('" +
-                     std::string(empresa) + "', " + codi + ", '1', 100000)");
-  }
-  connexio.CommitTrans();
-}
-
-// The two sets that the form of a note keeps open, and what it does when a rule speaks to it.
-class Nota_Oberta : public Document_Obert {
- public:
-  Nota_Oberta(std::int64_t numero) : cap_{.numero = numero, .empresa = empresa, .iva = true, .re = false} {
-    linies_.Open(SQL_Linies(tipus_albara, numero, empresa), sessio.Connexio_Comuna, Bloqueig::Optimista);
-    peu_.Open(SQL_Peu(tipus_albara, numero, empresa), sessio.Connexio_Comuna);
-  }
-  void Afegir(const Linia_Entrada& linia) {
-    Transaccio transaccio;
-    Afegir_Linia_Albara(cap_, linia, linies_, *this);
-    transaccio.Confirmar();
-  }
-
-  bool Re_Marcat() const override { return false; }
-  void Posar_Import(double euros) override { import_ = euros; }
-  void Posar_Estat(bool) override {}
-  void Posar_Pagament(bool) override {}
-  void Desar_Capcalera() override {}
-  void Refrescar_Peu() override { peu_.Requery(); }
-
- private:
-  Capcalera_Oberta cap_;
-  Recordset linies_;
-  Recordset peu_;
-  double import_ = 0;
-};
-
-Linia_Entrada Linia(int n) {
-  return {.article = Codi_Article(n),
-          .descripcio = "Article de la mesura " + std::to_string(n % articles),
-          .iva_article = "GN",
-          .cost = 10,
-          .unitats = 2,
-          .porc_marge = 30,
-          .preu_unitari = 13,
-          .pvp = 15.73};
-}
 
 // The same reads and writes, in the same order.
 class Nota_Nua {
@@ -146,7 +89,7 @@ class Nota_Nua {
   }
 
   Base_Nua& base_;
-  const std::string_view e_ = empresa;
+  const std::string_view e_ = empresa_mesura;
   std::int64_t ultima_ = 0;
   double import_ = 0;
   Sentencia_Nua comencar_{base_, "BEGIN IMMEDIATE"};
@@ -200,7 +143,7 @@ void Omplir_Nota_Llarga(std::int64_t numero) {
     sessio.Connexio_Comuna.Execute(
         "INSERT INTO ALBARALIN (NUMALB_AL, EMPRESA_AL, LIN_AL, ARTICLE_AL, DESCRIPCIO_AL, UNITATS_AL, PORC_IVA_AL, "
         "IMPORT_NET_AL, IMPORT_BRUT_AL) VALUES(" +
-        std::to_string(numero) + ", '" + empresa + "', " + std::to_string(i) + ", " + Text_SQL(Codi_Article(i)) +
+        std::to_string(numero) + ", '" + empresa_mesura + "', " + std::to_string(i) + ", " + Text_SQL(Codi_Article(i)) +
         ", 'Article de la mesura', 2, 21, 26, 31.46)");
   }
   sessio.Connexio_Comuna.CommitTrans();
@@ -225,7 +168,7 @@ struct Linies_Mesurades {
 
 Linies_Mesurades Mesurar(int notes) {
   const Installacio_Prova installacio;
-  Sembrar(sessio.Connexio_Comuna);
+  Sembrar_Articles(sessio.Connexio_Comuna);
   const std::string copia = installacio.Dir_Dades() + "/nua.db";
   std::filesystem::copy_file(sessio.Fitxer_Comu, copia);
   Base_Nua base(copia);
@@ -234,10 +177,10 @@ Linies_Mesurades Mesurar(int notes) {
   for (int i = 0; i < notes; ++i) {
     const std::int64_t numero = Crear_Capcalera_Albara();
     base.Executar("INSERT INTO ALBARACAP (NUMALB_AC, EMPRESA_AC, DATA_AC) VALUES (" + std::to_string(numero) + ", '" +
-                  empresa + "', '2026-01-01')");
+                  empresa_mesura + "', '2026-01-01')");
     Nota_Oberta oberta(numero);
     for (int k = 1; k <= linies_nota_curta; ++k) {
-      const Linia_Entrada linia = Linia(i * linies_nota_curta + k);
+      const Linia_Entrada linia = Linia_Mesura(i * linies_nota_curta + k);
       mesurades.qualsevol.nostre.push_back(Mil_Segons([&] { oberta.Afegir(linia); }));
       mesurades.qualsevol.nu.push_back(Mil_Segons([&] { nua.Afegir(numero, linia); }));
       if (k >= 3 && k <= 5) mesurades.quarta.nostre.push_back(mesurades.qualsevol.nostre.back());
@@ -249,7 +192,7 @@ Linies_Mesurades Mesurar(int notes) {
     Omplir_Nota_Llarga(numero);
     Nota_Oberta oberta(numero);
     for (int k = 0; k < 3; ++k) {
-      mesurades.quatre_centes.nostre.push_back(Mil_Segons([&] { oberta.Afegir(Linia(k)); }));
+      mesurades.quatre_centes.nostre.push_back(Mil_Segons([&] { oberta.Afegir(Linia_Mesura(k)); }));
     }
   }
   return mesurades;
