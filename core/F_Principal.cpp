@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "core/F_Cerca.h"
 #include "core/M_Empresa.h"
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Usuaris.h"
@@ -17,19 +18,15 @@ namespace {
 
 F_Principal* unica = nullptr;
 
-void Descarregar_Tot() {
-  for (const auto* formulari : Formularis_Carregats()) Descarregar_Formulari(formulari->Nom());
-}
-
 void Canviar_Usuari() {
-  Descarregar_Tot();
+  Descarregar_Tots();
   Habilitar_Menus(false);
   Mostrar_Formulari(QStringLiteral("F_SUBINICI"));
   Traduir_Formulari(QStringLiteral("F_SUBINICI"));
 }
 
 void Canviar_Empresa() {
-  Descarregar_Tot();
+  Descarregar_Tots();
   const std::string triada = sessio.pantalla->Triar_Empresa(sessio.Empresa_Actual, sessio.Idioma_Actual);
   if (triada.empty()) {
     sessio.pantalla->Caixa(
@@ -40,18 +37,22 @@ void Canviar_Empresa() {
 }
 
 void Tancar_Del_Davant() {
-  QMdiSubWindow* davant = unica->Area()->activeSubWindow();
-  if (davant != nullptr) davant->close();
+  if (const Formulari* davant = unica->Del_Davant()) Descarregar_Formulari(davant->Nom());
 }
 
-void Parlar_Catala() {
-  Canviar_Idioma(0);
+void Cercar_Al_Davant() {
+  Obrir_Cerca(unica->Del_Davant());
 }
-void Parlar_Castella() {
-  Canviar_Idioma(1);
-}
-void Parlar_Angles() {
-  Canviar_Idioma(2);
+
+// The click has ticked its entry already: whatever becomes of the change, the ticks tell the language of the session.
+template <std::int16_t idioma>
+void Parlar() {
+  try {
+    Canviar_Idioma(idioma);
+  } catch (...) {
+    Actualitzar_Menu_Sessio();
+    throw;
+  }
 }
 
 // An entry of the menu: what it opens, or what it does. One that has neither waits for its screen and is disabled.
@@ -104,11 +105,11 @@ const Entrada entrades[] = {
     {u"M_PrintScreen", u"M_Forms", u"Imprimir Formulari"},
     {u"M_CloseForm", u"M_Forms", u"Tancar Formulari", nullptr, Tancar_Del_Davant},
     {u"M_Guio8", u"M_Forms", ratlla},
-    {u"M_Search", u"M_Forms", u"Cercar", u"F_CERCA"},
+    {u"M_Search", u"M_Forms", u"Cercar", nullptr, Cercar_Al_Davant},
     {u"M_Languages", nullptr, u"&Idiomes", submenu},
-    {u"M_Catalan", u"M_Languages", u"Català", nullptr, Parlar_Catala, true},
-    {u"M_Spanish", u"M_Languages", u"Castellà", nullptr, Parlar_Castella, true},
-    {u"M_English", u"M_Languages", u"Anglès", nullptr, Parlar_Angles, true},
+    {u"M_Catalan", u"M_Languages", u"Català", nullptr, Parlar<0>, true},
+    {u"M_Spanish", u"M_Languages", u"Castellà", nullptr, Parlar<1>, true},
+    {u"M_English", u"M_Languages", u"Anglès", nullptr, Parlar<2>, true},
     {u"M_Windows", nullptr, u"Fi&nestres", submenu},
     {u"M_Help", nullptr, u"Ajuda", u"F_HELP"},
     {u"M_CanviUsuari", nullptr, u"Canviar d'usuari", nullptr, Canviar_Usuari},
@@ -194,12 +195,17 @@ void F_Principal::Omplir_Finestres() {
   QMenu* menu = Accio(QStringLiteral("M_Windows"))->menu();
   menu->clear();
   for (QMdiSubWindow* finestra : area_->subWindowList()) {
-    QAction* accio = menu->addAction(finestra->windowTitle());
+    QAction* accio = menu->addAction(finestra->windowTitle().replace(u'&', QStringLiteral("&&")));
     accio->setCheckable(true);
     accio->setChecked(finestra == area_->activeSubWindow());
     accio->setEnabled(finestra->isEnabled());
     connect(accio, &QAction::triggered, finestra, [this, finestra] { Portar_Al_Davant(finestra); });
   }
+}
+
+Formulari* F_Principal::Del_Davant() const {
+  const QMdiSubWindow* davant = area_->activeSubWindow();
+  return davant == nullptr ? nullptr : qobject_cast<Formulari*>(davant->widget());
 }
 
 void F_Principal::Portar_Al_Davant(QMdiSubWindow* finestra) {

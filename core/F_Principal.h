@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QMap>
 
+class Formulari;
 class QMdiArea;
 class QMdiSubWindow;
 
@@ -17,6 +18,7 @@ class F_Principal : public QMainWindow {
   static F_Principal* Unica();
 
   QMdiArea* Area() const { return area_; }
+  Formulari* Del_Davant() const;                 // the form in front, or null
   QAction* Accio(const QString& entrada) const;  // stops at once on an unknown name
   // An entry whose screen does not exist in this program stays disabled.
   void Habilitar(const QString& entrada, bool habilitada);

@@ -2,6 +2,8 @@
 
 #include <QMdiSubWindow>
 
+#include "core/F_Cerca.h"
+#include "core/F_Help.h"
 #include "core/F_Principal.h"
 #include "core/F_Subinici.h"
 #include "core/M_Funcions_Comuns.h"
@@ -18,6 +20,8 @@ namespace {
 
 void Registrar_Formularis() {
   Registrar_Formulari(QStringLiteral("F_SUBINICI"), [] { return new F_Subinici; });
+  Registrar_Formulari(QStringLiteral("F_CERCA"), [] { return new F_Cerca; });
+  Registrar_Formulari(QStringLiteral("F_HELP"), [] { return new F_Help; });
   Registrar_Formularis_Venda();
 }
 
@@ -66,7 +70,7 @@ bool Inici_Aplicacio() {
 }
 
 void Acabar_Aplicacio() {
-  for (const auto* formulari : Formularis_Carregats()) Descarregar_Formulari(formulari->Nom());
+  Descarregar_Tots();
   Tancar_Connexions();
   QCoreApplication::quit();
 }

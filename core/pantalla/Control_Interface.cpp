@@ -13,33 +13,10 @@
 #include "core/pantalla/Aparenca.h"
 #include "core/pantalla/Formulari.h"
 #include "core/pantalla/Graella.h"
+#include "core/pantalla/Pares.h"
 #include "core/pantalla/Traduccio.h"
 
 namespace {
-
-// What stands behind a form: disabled while it is open; requeried when it closes if it may have changed what they show.
-struct Parella {
-  const char16_t* formulari;
-  const char16_t* pare;
-  bool requerir;
-};
-
-constexpr Parella pares[] = {
-    {u"F_ALBARA", u"F_ALBARANSM", true},         {u"F_ALBARA", u"F_PAGAMENTSM", true},
-    {u"F_ALBARA", u"F_PAGPENDM", true},          {u"F_ALBARANSM", u"F_ALBARANSS", false},
-    {u"F_ALBCOMPRA", u"F_ALBCOMPRESM", true},    {u"F_ALBCOMPRESM", u"F_ALBCOMPRESS", false},
-    {u"F_ALBMAG", u"F_ALBMAGM", true},           {u"F_ALBMAGM", u"F_ALBMAGS", false},
-    {u"F_ARTICLE", u"F_ARTICLESMC", true},       {u"F_CLIENT", u"F_CLIENTSM", true},
-    {u"F_COMANDA", u"F_COMANDESM", true},        {u"F_COMANDA", u"F_PAGAMENTSM", true},
-    {u"F_COMANDA", u"F_PAGPENDM", true},         {u"F_COMANDESM", u"F_COMANDESS", false},
-    {u"F_DETALL_LINIAC", u"F_ALBCOMPRA", false}, {u"F_EMPRESA", u"F_EMPRESESM", true},
-    {u"F_FACTURA", u"F_FACTURESM", true},        {u"F_FACTURA", u"F_PAGAMENTSM", true},
-    {u"F_FACTURA", u"F_PAGPENDM", true},         {u"F_FACTURAR", u"F_ALBARANSM", true},
-    {u"F_FACTURESM", u"F_FACTURESS", false},     {u"F_MOVIMENTSM", u"F_MOVIMENTSS", false},
-    {u"F_PAGAMENTSM", u"F_PAGAMENTSS", false},   {u"F_PAGPENDM", u"F_PAGAMENTSS", false},
-    {u"F_PRESSUPOST", u"F_PRESSUPOSTOSM", true}, {u"F_PRESSUPOSTOSM", u"F_PRESSUPOSTOSS", false},
-    {u"F_PROVEIDOR", u"F_PROVEIDORSM", true},    {u"F_USUARI", u"F_USUARISM", true},
-};
 
 std::map<QString, std::function<Formulari*()>>& Fabriques() {
   static std::map<QString, std::function<Formulari*()>> fabriques;
@@ -55,7 +32,9 @@ QMdiSubWindow* Subfinestra(Formulari* formulari) {
   return qobject_cast<QMdiSubWindow*>(formulari->parentWidget());
 }
 
+// The window and what is in it: a form that has not been shown yet comes to its window as it was left.
 void Habilitar(Formulari* formulari, bool habilitat) {
+  formulari->setEnabled(habilitat);
   if (QMdiSubWindow* finestra = Subfinestra(formulari)) finestra->setEnabled(habilitat);
 }
 
@@ -67,14 +46,16 @@ void Centrar_Formulari(QMdiSubWindow* finestra, const QMdiArea* area) {
   finestra->move(x, y);
 }
 
-// Room enough for what the form asks for, never more than there is.
+// The size that the user gave it, or room enough for what the form asks for; never more than there is.
 void Collocar(Formulari* formulari) {
   QMdiArea* area = F_Principal::Unica()->Area();
   QMdiSubWindow* finestra = area->addSubWindow(formulari);
   finestra->setAttribute(Qt::WA_DeleteOnClose);
+  if (formulari->Sempre_A_Dalt()) finestra->setWindowFlag(Qt::WindowStaysOnTopHint);
   const QSize vora = finestra->sizeHint() - formulari->sizeHint();
   finestra->resize((formulari->sizeHint() + vora).boundedTo(area->viewport()->size()));
   Centrar_Formulari(finestra, area);
+  finestra->setEnabled(formulari->isEnabled());
   finestra->show();
 }
 
@@ -97,10 +78,27 @@ Formulari* Carregar_Formulari(const QString& nom) {
 void Requerir(Formulari* pare) {
   Recordset* rs = pare->Recordset_Llista();
   if (rs == nullptr) return;
+  pare->Preparar_Requery();
   sessio.Posicio_Guardada = static_cast<std::int32_t>(rs->AbsolutePosition());
   rs->Requery();
   Reposicionar(*rs, sessio.Posicio_Guardada - 1);
   if (Graella* graella = pare->Graella_Llista()) graella->Refrescar();
+}
+
+// The parents that were disabled at the opening of a form whose parent the session tells: what told it may have
+// changed when the form closes.
+std::map<QString, std::vector<const Pare*>>& Pares_En_Obrir() {
+  static std::map<QString, std::vector<const Pare*>> pares;
+  return pares;
+}
+
+std::vector<const Pare*> Pares_En_Tancar(const QString& nom) {
+  auto recordats = Pares_En_Obrir().extract(nom);
+  return recordats.empty() ? Pares_De(nom) : std::move(recordats.mapped());
+}
+
+Formulari* Carregat(const Pare& pare) {
+  return Formulari_De_Nom(QString::fromUtf16(pare.pare));
 }
 
 }  // namespace
@@ -149,12 +147,23 @@ void Descarregar_Formulari(const QString& nom) {
   }
 }
 
+void Descarregar_Tots() {
+  QStringList noms;
+  for (QMdiSubWindow* finestra : F_Principal::Unica()->Area()->subWindowList(QMdiArea::StackingOrder)) {
+    noms.prepend(finestra->widget() == nullptr ? QString() : finestra->widget()->objectName());
+  }
+  for (const auto* amagat : Formularis_Carregats()) noms << amagat->Nom();
+  for (const QString& nom : noms) Descarregar_Formulari(nom);
+}
+
 void Obrir_Formulari(const QString& nom) {
   const QString majuscules = nom.toUpper();
+  if (!Es_Del_Sistema(majuscules)) return;
   Traduir_Formulari(majuscules);
-  for (const auto& [formulari, pare, requerir] : pares) {
-    Formulari* carregat = majuscules == QStringView(formulari) ? Formulari_De_Nom(QString::fromUtf16(pare)) : nullptr;
-    if (carregat != nullptr) Habilitar(carregat, false);
+  Pares_En_Obrir()[majuscules] = Pares_De(majuscules);
+  for (const Pare* pare : Pares_De(majuscules)) {
+    if (pare->mena == Mena_Pare::Creat) Carregar_Amagat(QString::fromUtf16(pare->pare));
+    if (Formulari* carregat = Carregat(*pare)) Habilitar(carregat, false);
   }
 }
 
@@ -162,11 +171,11 @@ void Tancar_Formulari(const QString& nom) {
   const QString majuscules = nom.toUpper();
   Carregats().erase(majuscules);
   QMdiSubWindow* seguent = nullptr;
-  for (const auto& [formulari, pare, requerir] : pares) {
-    Formulari* carregat = majuscules == QStringView(formulari) ? Formulari_De_Nom(QString::fromUtf16(pare)) : nullptr;
+  for (const Pare* pare : Pares_En_Tancar(majuscules)) {
+    Formulari* carregat = Carregat(*pare);
     if (carregat == nullptr) continue;
-    if (requerir) Requerir(carregat);
     Habilitar(carregat, true);
+    if (pare->requerir) Requerir(carregat);
     if (Graella* graella = carregat->Graella_Llista()) graella->setFocus();
     if (seguent == nullptr) seguent = Subfinestra(carregat);
   }

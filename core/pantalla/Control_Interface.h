@@ -24,8 +24,11 @@ Formulari* Formulari_De_Nom(const QString& nom);
 std::vector<Formulari*> Formularis_Carregats();
 // Unloads a form (its own unload runs first). Nothing when it is not loaded.
 void Descarregar_Formulari(const QString& nom);
+// All of them, the one in front first.
+void Descarregar_Tots();
 
-// Every opener, right after the form is shown: texts, parents disabled, default pointer.
+// Every opener, right after the form is shown: texts, parents disabled. Nothing for a name that is none of the system's
+// forms.
 void Obrir_Formulari(const QString& nom);
 // The unload of every form: parents requeried and enabled, F_Cerca unloaded.
 void Tancar_Formulari(const QString& nom);

@@ -27,6 +27,10 @@ class Formulari : public QWidget {
   virtual Recordset* Recordset_Llista() { return nullptr; }
   // The grid that shows it.
   virtual Graella* Graella_Llista() { return nullptr; }
+  // Before Recordset_Llista is requeried by a form that closes: for a list over a table that has to be filled again.
+  virtual void Preparar_Requery() {}
+  // Kept above the other forms.
+  virtual bool Sempre_A_Dalt() const { return false; }
   // The document behind a document editor, for the rules.
   virtual Document_Obert* Document() { return nullptr; }
 

@@ -1,11 +1,24 @@
 #include "core/pantalla/Llista.h"
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/pantalla/Control_Interface.h"
+#include "core/pantalla/Files.h"
 
 void Llista::Muntar(Graella* graella, const std::vector<Columna_Graella>& columnes) {
   graella_ = graella;
   graella_->Columnes(columnes);
-  connect(graella_, &Graella::Doble_Clic, this, [this] { Guardar_Event([this] { Obrir_Fila(); }); });
+  connect(graella_, &Graella::Doble_Clic, this, [this] { Guardar_Event([this] { Triar_Fila(); }); });
+}
+
+// A filtered list is whole again before its row is opened; a row that is there no more opens nothing.
+void Llista::Triar_Fila() {
+  if (Formulari_De_Nom(QStringLiteral("F_CERCA")) != nullptr) {
+    const Fila_Recordada fila(rs_);
+    Descarregar_Formulari(QStringLiteral("F_CERCA"));
+    if (!fila.Tornar_Hi()) return;
+    graella_->Refrescar();
+  }
+  Obrir_Fila();
 }
 
 void Llista::Carregar() {

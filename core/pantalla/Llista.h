@@ -29,5 +29,6 @@ class Llista : public Formulari {
   Recordset rs_;
 
  private:
+  void Triar_Fila();
   Graella* graella_ = nullptr;
 };

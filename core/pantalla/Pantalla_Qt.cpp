@@ -118,7 +118,10 @@ bool Pantalla_Qt::eventFilter(QObject* objecte, QEvent* event) {
 
 std::string Pantalla_Qt::Triar_Empresa(const std::string& actual, int idioma) {
   if (Triador_Empresa) return Triador_Empresa(actual, idioma);
-  return Selector_Empresa(actual).Triar();
+  QApplication::setOverrideCursor(Qt::ArrowCursor);
+  const std::string triada = Selector_Empresa(actual).Triar();
+  QApplication::restoreOverrideCursor();
+  return triada;
 }
 
 void Pantalla_Qt::Menu_Habilitat(std::string_view entrada, bool habilitat) {
