@@ -13,6 +13,7 @@
 #include "core/pantalla/Aplicacio.h"
 #include "core/pantalla/Control_Interface.h"
 #include "core/pantalla/Formulari.h"
+#include "core/pantalla/Imprimir_Formulari.h"
 
 namespace {
 
@@ -38,6 +39,10 @@ void Canviar_Empresa() {
 
 void Tancar_Del_Davant() {
   if (const Formulari* davant = unica->Del_Davant()) Descarregar_Formulari(davant->Nom());
+}
+
+void Imprimir_Del_Davant() {
+  Imprimir_Formulari(unica->Del_Davant());
 }
 
 void Cercar_Al_Davant() {
@@ -102,7 +107,7 @@ const Entrada entrades[] = {
     {u"M_Guio7", u"M_Gestio", ratlla},
     {u"M_Cartera", u"M_Gestio", u"Cartera", u"F_PAGAMENTSS"},
     {u"M_Forms", nullptr, u"&Formularis", submenu},
-    {u"M_PrintScreen", u"M_Forms", u"Imprimir Formulari"},
+    {u"M_PrintScreen", u"M_Forms", u"Imprimir Formulari", nullptr, Imprimir_Del_Davant},
     {u"M_CloseForm", u"M_Forms", u"Tancar Formulari", nullptr, Tancar_Del_Davant},
     {u"M_Guio8", u"M_Forms", ratlla},
     {u"M_Search", u"M_Forms", u"Cercar", nullptr, Cercar_Al_Davant},

@@ -1,7 +1,5 @@
 #include "output/informe/Imprimir.h"
 
-#include <QApplication>
-
 #include "core/M_Empresa.h"
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
@@ -32,10 +30,6 @@ const Descripcio_Impressio& Descripcio_De(const Tipus_Document& tipus) {
   }
   throw Error_Brollador(errors::general, "Imprimir_Document", "no report for " + std::string(tipus.formulari));
 }
-
-QString carpeta_treballs;
-QString darrer_treball;
-int treballs = 0;
 
 QString Qt_Text(const std::string& text) {
   return QString::fromStdString(text);
@@ -137,9 +131,7 @@ void Treure(const Pagines& pagines, const QString& fitxer_pdf, int mode) {
     Crear_Directori(sessio.Dir_Temp);
     return Escriure_PDF(pagines, fitxer_pdf);
   }
-  if (carpeta_treballs.isEmpty()) return Dialeg_Impressio(pagines, QApplication::activeWindow());
-  darrer_treball = QStringLiteral("%1/treball-%2.pdf").arg(carpeta_treballs).arg(++treballs);
-  Escriure_PDF(pagines, darrer_treball);
+  Imprimir_Pagines(pagines);
 }
 
 // Empties the work table whatever becomes of the print.
@@ -175,14 +167,4 @@ void Imprimir_Document(const Tipus_Document& tipus, const Valor& numero, const s
 QString Fitxer_PDF(const Tipus_Document& tipus, const Valor& numero) {
   return Qt_Text(sessio.Dir_Temp) + QString::fromUtf16(Descripcio_De(tipus).prefix_pdf) + Qt_Text(numero.Text()) +
          QStringLiteral(".pdf");
-}
-
-void Fixar_Carpeta_Treballs(const QString& carpeta) {
-  carpeta_treballs = carpeta;
-}
-int Treballs_Impresos() {
-  return treballs;
-}
-QString Darrer_Treball() {
-  return darrer_treball;
 }

@@ -18,8 +18,3 @@ void Imprimir_Document(const Tipus_Document& tipus, const Valor& numero, const s
 
 // Where a document goes as PDF: A-12.pdf in the folder of temporary files.
 QString Fitxer_PDF(const Tipus_Document& tipus, const Valor& numero);
-
-// For scripts: print jobs go to files of this folder instead of the dialog. Empty: back to the user.
-void Fixar_Carpeta_Treballs(const QString& carpeta);
-int Treballs_Impresos();
-QString Darrer_Treball();  // file of the last job; empty: none

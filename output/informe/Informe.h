@@ -66,6 +66,7 @@ struct Pagines {
   QString titol;
   QString autor;
   std::vector<Pagina> pagines;
+  bool apaisades = false;  // all of them
 };
 
 class Informe {

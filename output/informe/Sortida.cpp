@@ -65,9 +65,13 @@ QByteArray Metadades(const Pagines& pagines) {
       .toUtf8();
 }
 
-QPageLayout Full_A4() {
-  return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()};
+QPageLayout Full_A4(const Pagines& pagines) {
+  return {QPageSize(QPageSize::A4), pagines.apaisades ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
 }
+
+QString carpeta_treballs;
+QString darrer_treball;
+int treballs = 0;
 
 }  // namespace
 
@@ -75,7 +79,7 @@ void Escriure_PDF(const Pagines& pagines, const QString& fitxer) {
   QSaveFile sortida(fitxer);
   if (!sortida.open(QIODevice::WriteOnly)) Llancar_No_Escrit(fitxer + QStringLiteral(": ") + sortida.errorString());
   QPdfWriter pdf(&sortida);
-  pdf.setPageLayout(Full_A4());
+  pdf.setPageLayout(Full_A4(pagines));
   pdf.setResolution(1200);
   pdf.setTitle(pagines.titol);
   pdf.setCreator(QStringLiteral("Brollador"));
@@ -86,7 +90,7 @@ void Escriure_PDF(const Pagines& pagines, const QString& fitxer) {
 
 void Preparar_Impressora(const Pagines& pagines, QPrinter& impressora) {
   impressora.setFullPage(true);
-  impressora.setPageLayout(Full_A4());
+  impressora.setPageLayout(Full_A4(pagines));
   impressora.setDocName(pagines.titol);
 }
 
@@ -115,6 +119,22 @@ bool Demanar_PDF(const Pagines& pagines, QWidget* pare) {
   if (fitxer.isEmpty()) return false;
   Escriure_PDF(pagines, fitxer);
   return true;
+}
+
+void Imprimir_Pagines(const Pagines& pagines) {
+  if (carpeta_treballs.isEmpty()) return Dialeg_Impressio(pagines, QApplication::activeWindow());
+  darrer_treball = QStringLiteral("%1/treball-%2.pdf").arg(carpeta_treballs).arg(++treballs);
+  Escriure_PDF(pagines, darrer_treball);
+}
+
+void Fixar_Carpeta_Treballs(const QString& carpeta) {
+  carpeta_treballs = carpeta;
+}
+int Treballs_Impresos() {
+  return treballs;
+}
+QString Darrer_Treball() {
+  return darrer_treball;
 }
 
 void Dialeg_Impressio(const Pagines& pagines, QWidget* pare) {

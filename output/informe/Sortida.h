@@ -14,6 +14,13 @@ void Preparar_Impressora(const Pagines& pagines, QPrinter& impressora);
 // The pages that the printer's range tells. Raises 0x80004005 when the printer takes nothing.
 void Enviar_A_Impressora(const Pagines& pagines, QPrinter& impressora);
 
+// What a print command does: asks the user what to do with the pages.
+void Imprimir_Pagines(const Pagines& pagines);
+// For scripts: print jobs go to files of this folder instead of the dialog. Empty: back to the user.
+void Fixar_Carpeta_Treballs(const QString& carpeta);
+int Treballs_Impresos();
+QString Darrer_Treball();  // file of the last job; empty: none
+
 // Asks what to do with the pages: print, look at them, save them as PDF, nothing.
 void Dialeg_Impressio(const Pagines& pagines, QWidget* pare);
 // Each is true when the pages were printed or saved.

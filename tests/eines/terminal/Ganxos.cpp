@@ -6,7 +6,7 @@
 #include "core/Sessio.h"
 #include "core/pantalla/Aplicacio.h"
 #include "core/pantalla/Pantalla_Qt.h"
-#include "output/informe/Imprimir.h"
+#include "output/informe/Sortida.h"
 #include "tests/eines/guio/Error_Guio.h"
 #include "tests/eines/terminal/Servidor.h"
 
