@@ -13,6 +13,7 @@
 #include "core/pantalla/Aparenca.h"
 #include "core/pantalla/Formulari.h"
 #include "core/pantalla/Graella.h"
+#include "core/pantalla/Memoria_Pantalles.h"
 #include "core/pantalla/Pares.h"
 #include "core/pantalla/Traduccio.h"
 
@@ -28,7 +29,7 @@ std::map<QString, Formulari*>& Carregats() {
   return carregats;
 }
 
-QMdiSubWindow* Subfinestra(Formulari* formulari) {
+QMdiSubWindow* Subfinestra(const Formulari* formulari) {
   return qobject_cast<QMdiSubWindow*>(formulari->parentWidget());
 }
 
@@ -46,14 +47,20 @@ void Centrar_Formulari(QMdiSubWindow* finestra, const QMdiArea* area) {
   finestra->move(x, y);
 }
 
+// What the form asks for, with its frame.
+QSize Mida_Propia(const Formulari* formulari) {
+  const QSize vora = Subfinestra(formulari)->sizeHint() - formulari->sizeHint();
+  return formulari->sizeHint() + vora;
+}
+
 // The size that the user gave it, or room enough for what the form asks for; never more than there is.
 void Collocar(Formulari* formulari) {
   QMdiArea* area = F_Principal::Unica()->Area();
   QMdiSubWindow* finestra = area->addSubWindow(formulari);
   finestra->setAttribute(Qt::WA_DeleteOnClose);
   if (formulari->Sempre_A_Dalt()) finestra->setWindowFlag(Qt::WindowStaysOnTopHint);
-  const QSize vora = finestra->sizeHint() - formulari->sizeHint();
-  finestra->resize((formulari->sizeHint() + vora).boundedTo(area->viewport()->size()));
+  finestra->resize(
+      Mida_Recordada(formulari->Nom()).value_or(Mida_Propia(formulari)).boundedTo(area->viewport()->size()));
   Centrar_Formulari(finestra, area);
   finestra->setEnabled(formulari->isEnabled());
   finestra->show();
@@ -125,6 +132,14 @@ std::vector<Formulari*> Formularis_Carregats() {
 Formulari* Carregar_Amagat(const QString& nom) {
   Formulari* carregat = Formulari_De_Nom(nom);
   return carregat != nullptr ? carregat : Carregar_Formulari(nom.toUpper());
+}
+
+// A window that fills the area, or is put away, tells nothing about its size.
+void Recordar_Mida(const Formulari* formulari) {
+  const QMdiSubWindow* finestra = Subfinestra(formulari);
+  if (finestra == nullptr || finestra->isMaximized() || finestra->isMinimized()) return;
+  const QSize lloc = F_Principal::Unica()->Area()->viewport()->size();
+  Recordar_Mida(formulari->Nom(), finestra->size(), Mida_Propia(formulari).boundedTo(lloc));
 }
 
 Formulari* Mostrar_Formulari(const QString& nom) {

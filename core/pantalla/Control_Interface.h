@@ -24,6 +24,8 @@ Formulari* Formulari_De_Nom(const QString& nom);
 std::vector<Formulari*> Formularis_Carregats();
 // Unloads a form (its own unload runs first). Nothing when it is not loaded.
 void Descarregar_Formulari(const QString& nom);
+// For the next time that this user opens it; before it goes.
+void Recordar_Mida(const Formulari* formulari);
 // All of them, the one in front first.
 void Descarregar_Tots();
 

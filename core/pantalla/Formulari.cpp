@@ -57,6 +57,7 @@ void Formulari::closeEvent(QCloseEvent* event) {
   if (descarregat_) return;
   descarregat_ = true;
   for (const auto* graella : findChildren<Graella*>()) graella->Desar_Amplades();
+  Recordar_Mida(this);
   Guardar_Event([this] { Descarregar(); });
   Guardar_Event([this] { Tancar_Formulari(Nom()); });
 }

@@ -2,11 +2,10 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QSettings>
 
-#include "core/Sessio.h"
 #include "core/pantalla/Control_Interface.h"
 #include "core/pantalla/Formulari.h"
+#include "core/pantalla/Memoria_Pantalles.h"
 #include "core/pantalla/Model_Recordset.h"
 
 namespace {
@@ -143,30 +142,28 @@ void Graella::keyPressEvent(QKeyEvent* event) {
   QTableView::keyPressEvent(event);
 }
 
-QString Graella::Clau_Amplades() const {
+QString Graella::Nom_Formulari() const {
   const QWidget* formulari = parentWidget();
   while (formulari != nullptr && qobject_cast<const Formulari*>(formulari) == nullptr)
     formulari = formulari->parentWidget();
-  return (formulari == nullptr ? QString() : formulari->objectName() + u'/') + objectName() + u'/';
+  return formulari == nullptr ? QString() : formulari->objectName();
 }
 
 void Graella::Desar_Amplades() const {
-  QSettings fitxer(QString::fromStdString(sessio.Dir_Dades + "/pantalles.ini"), QSettings::IniFormat);
-  int columna = 0;
+  int columna = -1;
   for (const auto& que : model_->Columnes()) {
-    const QString clau = Clau_Amplades() + QString::fromUtf8(que.camp);
-    const int ara = columnWidth(columna++);
-    const bool canviada = que.amplada > 0 && ara != que.amplada / twips_per_pixel;
-    if (canviada && fitxer.value(clau).toInt() != ara) fitxer.setValue(clau, ara);
+    ++columna;
+    if (que.amplada == 0) continue;
+    Recordar_Amplada(Nom_Formulari(), objectName(), QString::fromUtf8(que.camp), columnWidth(columna),
+                     que.amplada / twips_per_pixel);
   }
 }
 
 void Graella::Recuperar_Amplades() {
-  const QSettings fitxer(QString::fromStdString(sessio.Dir_Dades + "/pantalles.ini"), QSettings::IniFormat);
-  int columna = 0;
+  int columna = -1;
   for (const auto& que : model_->Columnes()) {
-    const int desada = fitxer.value(Clau_Amplades() + QString::fromUtf8(que.camp)).toInt();
-    if (que.amplada > 0 && desada > 0) setColumnWidth(columna, desada);
     ++columna;
+    const auto desada = Amplada_Recordada(Nom_Formulari(), objectName(), QString::fromUtf8(que.camp));
+    if (que.amplada > 0 && desada) setColumnWidth(columna, *desada);
   }
 }

@@ -48,7 +48,7 @@ class Graella : public QTableView {
   // Reopens the recordset on its statement cut at ORDER BY plus this field.
   void Ordenar_Per(const QString& camp);
 
-  // The widths that the user gave to the columns, kept in the data folder by form and grid.
+  // The widths that the user gave to the columns, remembered by user, form and grid.
   void Desar_Amplades() const;
   void Recuperar_Amplades();
 
@@ -60,6 +60,6 @@ class Graella : public QTableView {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  QString Clau_Amplades() const;
+  QString Nom_Formulari() const;
   Model_Recordset* model_;
 };

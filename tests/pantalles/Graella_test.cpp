@@ -90,6 +90,25 @@ TEST_F(Graella_D_Articles, The_widths_that_the_user_gave_come_back) {
   EXPECT_EQ(altra.columnWidth(1), 1200 / 15);
 }
 
+TEST_F(Graella_D_Articles, A_width_put_back_as_it_was_is_forgotten) {
+  graella.setColumnWidth(0, 222);
+  graella.Desar_Amplades();
+  graella.setColumnWidth(0, 100);
+  graella.Desar_Amplades();
+  graella.setColumnWidth(0, 150);
+  graella.Recuperar_Amplades();
+  EXPECT_EQ(graella.columnWidth(0), 150);
+}
+
+TEST_F(Graella_D_Articles, Another_user_has_widths_of_their_own) {
+  graella.setColumnWidth(0, 222);
+  graella.Desar_Amplades();
+  graella.setColumnWidth(0, 100);
+  sessio.Usuari_Actual = "MARIA";
+  graella.Recuperar_Amplades();
+  EXPECT_EQ(graella.columnWidth(0), 100);
+}
+
 TEST_F(Graella_D_Articles, A_closed_recordset_shows_no_rows) {
   rs.Close();
   graella.Refrescar();

@@ -1,0 +1,15 @@
+// What each user of this terminal did to the windows: their sizes and the widths of their columns, in a file of the
+// data folder. A file that is missing, damaged or cannot be written is as good as an empty one. Before a login nothing
+// is remembered.
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <optional>
+
+std::optional<QSize> Mida_Recordada(const QString& formulari);
+// Only what differs from `propia`, the size that the form asks for, takes room in the file.
+void Recordar_Mida(const QString& formulari, QSize mida, QSize propia);
+
+std::optional<int> Amplada_Recordada(const QString& formulari, const QString& graella, const QString& camp);
+void Recordar_Amplada(const QString& formulari, const QString& graella, const QString& camp, int amplada, int propia);
