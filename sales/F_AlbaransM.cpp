@@ -31,6 +31,7 @@ F_AlbaransM::F_AlbaransM()
   Muntar(ui_->G_AlbM, columnes);
   Muntar_Botons(ui_->B_NouAlbara, ui_->B_EsborrarAlbara, ui_->B_Exit);
   Dibuixar(ui_->B_FACT, Dibuix::Calcular);
+  Boto_De_Pantalla(QStringLiteral("B_FACT"), QStringLiteral("F_FACTURAR"));
   ui_->G_AlbM->Estil_De_Fila([this](std::int64_t fila) {
     const Valor estat = rs_.Valor_De_Fila(fila, rs_.Index_Camp("ESTAT_AC"));
     return !estat.Es_Nul() && estat.Boolea() ? QStringLiteral("OK") : QString();
@@ -38,13 +39,6 @@ F_AlbaransM::F_AlbaransM()
 }
 
 F_AlbaransM::~F_AlbaransM() = default;
-
-// Invoicing asks for both rights and for the notes of one customer.
-void F_AlbaransM::Aplicar_Drets() {
-  Llista_Documents::Aplicar_Drets();
-  const bool factura = Dret() == "M" && sessio.P_Factures == "M" && !Cerca()->Criteris().client.empty();
-  ui_->B_FACT->setEnabled(factura && Hi_Ha_Fabrica(QStringLiteral("F_FACTURAR")));
-}
 
 std::string F_AlbaransM::Sentencia() const {
   return Consulta_Albarans(Cerca()->Criteris(), false) + " ORDER BY NUMALB_AC";

@@ -14,14 +14,12 @@ class F_AlbaransM : public Llista_Documents {
  public:
   F_AlbaransM();
   ~F_AlbaransM() override;
-  void Aplicar_Drets() override;
 
  protected:
   std::string Sentencia() const override;
   Valor Crear_Document() override;
   void Esborrar(const Valor& numero) override;
   void Passar_Numero(const Valor& numero) override;
-  const std::string& Dret() const override { return sessio.P_Albarans; }
 
  private:
   std::unique_ptr<Ui::F_AlbaransM> ui_;

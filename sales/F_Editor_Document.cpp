@@ -116,11 +116,6 @@ void Editor_Document::Connectar() {
   connect(sortir, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
 }
 
-void Editor_Document::Boto_De_Pantalla(const QString& boto, const QString& formulari) {
-  Control_De_Nom<QPushButton>(boto)->setProperty("pantalla", formulari);
-  Control_De_Nom<QPushButton>(boto)->setEnabled(Hi_Ha_Fabrica(formulari));
-}
-
 void Editor_Document::Carregar() {
   numero_ = Numero_A_Obrir();
   nom_client_->Omplir(SQL_Combo_Clients(), sessio.Connexio_Comuna, "NIF_CLI", "RAO_SOCIAL_CLI");
@@ -181,27 +176,21 @@ void Editor_Document::Activar() {
 
 // ---- What may be touched ----------------------------------------------------------------------------------------
 
-// By the rights of the session and the state of the document; the state never gives what the right took away.
+// What the rights of the session give, less what the state of the document takes away.
 void Editor_Document::Aplicar_Estat() {
+  Formulari::Aplicar_Drets();
   const bool consulta = Dret() == "C";
   const bool te_linies = Comptar_Linies(descripcio_.tipus, numero_, sessio.Empresa_Actual) > 0;
   const bool cap_obert = !te_linies && Dret() == "M";
+  const auto treure = [](QWidget* control, bool obert) {
+    if (!obert) control->setEnabled(false);
+  };
   for (QWidget* control : std::initializer_list<QWidget*>{camp_numero_, nom_client_, iva_, re_}) {
-    control->setEnabled(cap_obert);
+    treure(control, cap_obert);
   }
-  data_->setEnabled(cap_obert || (te_linies && !descripcio_.data_fixa_amb_linies && !consulta));
+  treure(data_, cap_obert || (te_linies && !descripcio_.data_fixa_amb_linies));
   const auto boto = [this](const char* nom) { return Control_De_Nom<QPushButton>(QString::fromLatin1(nom)); };
-  auto* b_client = boto("B_CLIENT");
-  const bool canvia_client = te_linies ? !consulta && !Bloquejat() : cap_obert;
-  b_client->setEnabled(canvia_client && Hi_Ha_Fabrica(b_client->property("pantalla").toString()));
-  for (const char* nom : {"B_VALORAR", "B_EsborrarLinia"}) boto(nom)->setEnabled(!consulta);
-  for (const char* nom : {"B_Pagaments"}) {
-    boto(nom)->setEnabled(!consulta && Hi_Ha_Fabrica(boto(nom)->property("pantalla").toString()));
-  }
-  for (QWidget* control :
-       std::initializer_list<QWidget*>{observacions_, estat_, graella_linies_, graella_peu_, opcions_}) {
-    control->setEnabled(!consulta);
-  }
+  treure(boto("B_CLIENT"), te_linies ? !Bloquejat() : cap_obert);
   const bool tancat = estat_->isChecked();
   for (const char* nom : {"B_AMUNT", "B_AVALL"}) boto(nom)->setEnabled(!tancat && !consulta);
   if (tancat && descripcio_.amaga_entrada) nova_->hide();

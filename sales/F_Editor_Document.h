@@ -64,8 +64,6 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Muntar();
   const Valor& Numero() const { return numero_; }
   Valor Camp_De_Linia(const char* paper) const;  // of the current line
-  // An action that works on a screen which this program may not have yet.
-  void Boto_De_Pantalla(const QString& boto, const QString& formulari);
 
   Recordset cap_;
   Recordset linies_;

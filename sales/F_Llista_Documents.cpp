@@ -20,20 +20,12 @@ void Mostrar_Refus(const Error_Brollador& error) {
 Llista_Documents::Llista_Documents(const QString& nom, const Tipus_Document& tipus) : Llista(nom), tipus_(tipus) {}
 
 void Llista_Documents::Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir) {
-  nou_ = nou;
-  esborrar_ = esborrar;
   Dibuixar(nou, Dibuix::Nou);
   Dibuixar(esborrar, Dibuix::Esborrar);
   Dibuixar(sortir, Dibuix::Sortir);
   connect(nou, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Nou(); }); });
   connect(esborrar, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Esborrar_Fila(); }); });
   connect(sortir, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
-}
-
-void Llista_Documents::Aplicar_Drets() {
-  const bool modifica = Dret() == "M";
-  nou_->setEnabled(modifica);
-  esborrar_->setEnabled(modifica);
 }
 
 void Llista_Documents::Nou() {

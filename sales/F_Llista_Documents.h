@@ -10,13 +10,11 @@ class Llista_Documents : public Llista {
   Q_OBJECT
  public:
   Llista_Documents(const QString& nom, const Tipus_Document& tipus);
-  void Aplicar_Drets() override;
 
  protected:
   virtual Valor Crear_Document() = 0;                   // a head without lines; raises
   virtual void Esborrar(const Valor& numero) = 0;       // asks and deletes
   virtual void Passar_Numero(const Valor& numero) = 0;  // to the editor that opens
-  virtual const std::string& Dret() const = 0;          // the right over the kind
 
   void Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir);
   void Obrir_Fila() override;
@@ -27,6 +25,4 @@ class Llista_Documents : public Llista {
   void Esborrar_Fila();
 
   const Tipus_Document& tipus_;
-  QPushButton* nou_ = nullptr;
-  QPushButton* esborrar_ = nullptr;
 };

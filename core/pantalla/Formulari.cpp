@@ -5,6 +5,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/pantalla/Control_Interface.h"
+#include "core/pantalla/Drets.h"
 #include "core/pantalla/Graella.h"
 #include "core/pantalla/Teclat.h"
 
@@ -50,6 +51,23 @@ void Formulari::Guardar_Event(const std::function<void()>& rutina, const std::fu
     }
     Mostrar_Error(propi);
   }
+}
+
+void Formulari::Aplicar_Drets() {
+  Aplicar_Taula_De_Drets(*this);
+}
+
+QWidget* Formulari::Cercar_Control(const QString& nom) const {
+  for (auto* control : findChildren<QWidget*>()) {
+    if (control->objectName().compare(nom, Qt::CaseInsensitive) == 0) return control;
+  }
+  return nullptr;
+}
+
+void Formulari::Boto_De_Pantalla(const QString& boto, const QString& formulari) {
+  auto* control = Control_De_Nom<QWidget>(boto);
+  control->setProperty("pantalla", formulari);
+  Habilitar_Control(*control, true);
 }
 
 void Formulari::closeEvent(QCloseEvent* event) {

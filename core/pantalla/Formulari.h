@@ -18,10 +18,13 @@ class Formulari : public QWidget {
   QString Nom() const { return objectName(); }
   bool Es_Tanca() const { return descarregat_; }
 
-  virtual void Carregar() {}       // once, before it is shown
-  virtual void Activar() {}        // each time it comes to the front
-  virtual void Descarregar() {}    // when it is closed; an error is shown and it closes all the same
-  virtual void Aplicar_Drets() {}  // controls by the rights of the session
+  virtual void Carregar() {}     // once, before it is shown
+  virtual void Activar() {}      // each time it comes to the front
+  virtual void Descarregar() {}  // when it is closed; an error is shown and it closes all the same
+  virtual void Aplicar_Drets();  // controls by the rights of the session: what the table of rights says
+
+  // A control by its name in any case; null when the form has none.
+  QWidget* Cercar_Control(const QString& nom) const;
 
   // The recordset of a list, which editors requery and F_Cerca filters; null when the form has none.
   virtual Recordset* Recordset_Llista() { return nullptr; }
@@ -47,6 +50,9 @@ class Formulari : public QWidget {
     if (control == nullptr) qFatal("%s: no %s", qUtf8Printable(Nom()), qUtf8Printable(nom));
     return control;
   }
+
+  // A button that works on a screen: disabled for as long as this program has no such screen.
+  void Boto_De_Pantalla(const QString& boto, const QString& formulari);
 
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  // Enter goes to the next field

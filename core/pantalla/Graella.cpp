@@ -118,6 +118,10 @@ QString Graella::Titol_Columna(int index) const {
   return model_->Titol(index);
 }
 
+void Graella::Permetre_Canvis(bool permes) {
+  setEditTriggers(permes ? DoubleClicked | EditKeyPressed | AnyKeyPressed : EditTriggers(NoEditTriggers));
+}
+
 void Graella::Ordenar_Per(const QString& camp) {
   Recordset* rs = model_->Lligat();
   if (rs == nullptr || !rs->State()) return;

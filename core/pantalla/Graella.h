@@ -45,6 +45,9 @@ class Graella : public QTableView {
   void Titol_Columna(int index, const QString& titol);
   QString Titol_Columna(int index) const;
 
+  // Rows may be changed and added in the grid, or only read.
+  void Permetre_Canvis(bool permes);
+
   // Reopens the recordset on its statement cut at ORDER BY plus this field.
   void Ordenar_Per(const QString& camp);
 

@@ -1,0 +1,37 @@
+// The rights of the session on the controls of every form, as one table. Lists ask for the letter M, editors refuse the
+// letter C: any other letter leaves a list without its buttons and an editor open.
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/Sessio.h"
+
+class Formulari;
+class QWidget;
+
+enum class Mena_Drets {
+  Llista,            // controls enabled with M
+  Llista_Editable,   // the same, and the grid takes changes
+  Editor,            // controls enabled unless the letter is C
+  Sense_Lletra,      // enabled by the condition alone
+  Sempre_Desactivat  // whatever the letter is
+};
+
+struct Fila_Drets {
+  const char16_t* formulari;
+  std::string Sessio::*dret;  // null: the right of the document whose payments are shown
+  Mena_Drets mena;
+  std::vector<const char16_t*> controls;
+  bool (*condicio)(const Formulari&) = nullptr;  // has to hold too
+};
+
+// A form may have several rows.
+std::span<const Fila_Drets> Taula_De_Drets();
+
+// Applies the rows of a loaded form, passing over the controls that it has not. Nothing for a form without rows.
+void Aplicar_Taula_De_Drets(Formulari& formulari);
+
+// A control enabled by a right, unless it works on a screen that this program has not (see Boto_De_Pantalla).
+void Habilitar_Control(QWidget& control, bool habilitat);
