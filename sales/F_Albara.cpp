@@ -54,9 +54,6 @@ const Descripcio_Editor descripcio{
 F_Albara::F_Albara() : Editor_Document(QStringLiteral("F_Albara"), descripcio), ui_(std::make_unique<Ui::F_Albara>()) {
   ui_->setupUi(this);
   Muntar();
-  Boto_De_Pantalla(QStringLiteral("B_CLIENT"), QStringLiteral("F_CLIENTSM"));
-  Boto_De_Pantalla(QStringLiteral("B_ARTICLESM"), QStringLiteral("F_ARTICLESMCS"));
-  Boto_De_Pantalla(QStringLiteral("B_COMANDES"), QStringLiteral("F_COMANDESMCS"));
   Boto_De_Pantalla(QStringLiteral("B_Pagaments"), QStringLiteral("F_PAGDOC"));
   Boto_De_Pantalla(QStringLiteral("B_EMAIL"), QStringLiteral("F_STATUS"));
 }

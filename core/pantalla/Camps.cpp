@@ -44,6 +44,14 @@ class Vigia_De_Focus : public QObject {
       : QObject(camp), tipus_(tipus), rutina_(std::move(rutina)) {
     camp->installEventFilter(this);
   }
+  // Runs the routines of a field that wait for this kind of event.
+  static void Executar(const QWidget* camp, QEvent::Type tipus) {
+    const QObjectList fills = camp->children();
+    for (QObject* fill : fills) {
+      const auto* vigia = dynamic_cast<Vigia_De_Focus*>(fill);
+      if (vigia != nullptr && vigia->tipus_ == tipus) vigia->rutina_();
+    }
+  }
 
  protected:
   bool eventFilter(QObject* objecte, QEvent* event) override {
@@ -69,6 +77,13 @@ void En_Sortir(QWidget* camp, std::function<void()> rutina) {
 
 void En_Entrar(QWidget* camp, std::function<void()> rutina) {
   new Vigia_De_Focus(camp, QEvent::FocusIn, std::move(rutina));
+}
+
+void Entrar_Al_Camp(QWidget* camp) {
+  Vigia_De_Focus::Executar(camp, QEvent::FocusIn);
+}
+void Deixar_Camp(QWidget* camp) {
+  Vigia_De_Focus::Executar(camp, QEvent::FocusOut);
 }
 
 void Posar_Focus(QWidget* camp) {

@@ -11,6 +11,7 @@
 #include "core/M_Idiomes.h"
 #include "core/M_Usuaris.h"
 #include "core/pantalla/Aparenca.h"
+#include "core/pantalla/Crides.h"
 #include "core/pantalla/Formulari.h"
 #include "core/pantalla/Graella.h"
 #include "core/pantalla/Memoria_Pantalles.h"
@@ -76,6 +77,7 @@ Formulari* Carregar_Formulari(const QString& nom) {
     if (it != Carregats().end() && it->second == quin) Carregats().erase(it);
   });
   Vestir_Formulari(nou.get());
+  Connectar_Crides(*nou);
   nou->Carregar();
   for (auto* graella : nou->findChildren<Graella*>()) graella->Recuperar_Amplades();
   nou->Aplicar_Drets();
@@ -111,7 +113,11 @@ Formulari* Carregat(const Pare& pare) {
 }  // namespace
 
 void Registrar_Formulari(const QString& nom, std::function<Formulari*()> fabrica) {
-  Fabriques()[nom.toUpper()] = std::move(fabrica);
+  if (fabrica) {
+    Fabriques()[nom.toUpper()] = std::move(fabrica);
+  } else {
+    Fabriques().erase(nom.toUpper());
+  }
 }
 
 bool Hi_Ha_Fabrica(const QString& nom) {
@@ -185,6 +191,7 @@ void Obrir_Formulari(const QString& nom) {
 void Tancar_Formulari(const QString& nom) {
   const QString majuscules = nom.toUpper();
   Carregats().erase(majuscules);
+  Oblidar_Crida(majuscules);
   QMdiSubWindow* seguent = nullptr;
   for (const Pare* pare : Pares_En_Tancar(majuscules)) {
     Formulari* carregat = Carregat(*pare);

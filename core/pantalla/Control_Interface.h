@@ -11,7 +11,8 @@
 class Formulari;
 class QWidget;
 
-// Forms by name, so that a menu entry or another form can show one without knowing its class.
+// Forms by name (an empty factory takes the name out), so that a menu entry or another form can show one without
+// knowing its class.
 void Registrar_Formulari(const QString& nom, std::function<Formulari*()> fabrica);
 bool Hi_Ha_Fabrica(const QString& nom);  // the screen exists in this program
 

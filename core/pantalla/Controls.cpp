@@ -118,6 +118,11 @@ void Combo_Codi::Posar(const std::string& codi, const std::string& nom) {
   lineEdit()->setCursorPosition(0);
 }
 
+void Combo_Codi::Triar(const std::string& codi, const std::string& nom) {
+  Posar(codi, nom);
+  Q_EMIT Triat();
+}
+
 void Combo_Codi::Escollir(int index) {
   if (index < 0) return;
   codi_ = itemData(index).toString();

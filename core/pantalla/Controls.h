@@ -43,6 +43,7 @@ class Combo_Codi : public QComboBox {
   std::string Codi() const;  // empty: none
   std::string Nom() const;
   void Posar(const std::string& codi, const std::string& nom);  // also a name that the list does not hold
+  void Triar(const std::string& codi, const std::string& nom);  // the same, as the user's choice
 
  Q_SIGNALS:
   void Triat();  // the user chose an entry, or none

@@ -1,6 +1,7 @@
 #include "core/pantalla/Drets.h"
 
 #include <QLineEdit>
+#include <algorithm>
 
 #include "core/pantalla/Control_Interface.h"
 #include "core/pantalla/Controls.h"
@@ -218,6 +219,12 @@ bool Permet(const Fila_Drets& fila, const Formulari& formulari) {
 
 std::span<const Fila_Drets> Taula_De_Drets() {
   return Files();
+}
+
+bool S_Edita_En_Lloc(const QString& formulari) {
+  return std::any_of(Files().begin(), Files().end(), [nom = formulari.toUpper()](const Fila_Drets& fila) {
+    return fila.mena == Mena_Drets::Llista_Editable && nom == QStringView(fila.formulari);
+  });
 }
 
 void Habilitar_Control(QWidget& control, bool habilitat) {

@@ -2,6 +2,7 @@
 // letter C: any other letter leaves a list without its buttons and an editor open.
 #pragma once
 
+#include <QString>
 #include <span>
 #include <string>
 #include <vector>
@@ -32,6 +33,9 @@ std::span<const Fila_Drets> Taula_De_Drets();
 
 // Applies the rows of a loaded form, passing over the controls that it has not. Nothing for a form without rows.
 void Aplicar_Taula_De_Drets(Formulari& formulari);
+
+// The form is a list whose rows are edited in its grid.
+bool S_Edita_En_Lloc(const QString& formulari);
 
 // A control enabled by a right, unless it works on a screen that this program has not (see Boto_De_Pantalla).
 void Habilitar_Control(QWidget& control, bool habilitat);

@@ -25,6 +25,8 @@ class Formulari : public QWidget {
 
   // A control by its name in any case; null when the form has none.
   QWidget* Cercar_Control(const QString& nom) const;
+  // A button that works on a screen: disabled for as long as this program has no such screen.
+  void Boto_De_Pantalla(const QString& boto, const QString& formulari);
 
   // The recordset of a list, which editors requery and F_Cerca filters; null when the form has none.
   virtual Recordset* Recordset_Llista() { return nullptr; }
@@ -50,9 +52,6 @@ class Formulari : public QWidget {
     if (control == nullptr) qFatal("%s: no %s", qUtf8Printable(Nom()), qUtf8Printable(nom));
     return control;
   }
-
-  // A button that works on a screen: disabled for as long as this program has no such screen.
-  void Boto_De_Pantalla(const QString& boto, const QString& formulari);
 
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  // Enter goes to the next field

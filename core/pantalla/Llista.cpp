@@ -2,6 +2,8 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/pantalla/Control_Interface.h"
+#include "core/pantalla/Crides.h"
+#include "core/pantalla/Drets.h"
 #include "core/pantalla/Files.h"
 
 void Llista::Muntar(Graella* graella, const std::vector<Columna_Graella>& columnes) {
@@ -10,8 +12,11 @@ void Llista::Muntar(Graella* graella, const std::vector<Columna_Graella>& column
   connect(graella_, &Graella::Doble_Clic, this, [this] { Guardar_Event([this] { Triar_Fila(); }); });
 }
 
-// A filtered list is whole again before its row is opened; a row that is there no more opens nothing.
+// For the field that asked for it, or to be opened. A filtered list is whole again before its row is opened, and a row
+// that is there no more opens nothing. In a list that is edited in place a double click is for the cell.
 void Llista::Triar_Fila() {
+  if (Crida_Pendent(Nom()) != nullptr && !Admet_Retorn()) return;
+  if (Tornar_Fila(*this) || S_Edita_En_Lloc(Nom())) return;
   if (Formulari_De_Nom(QStringLiteral("F_CERCA")) != nullptr) {
     const Fila_Recordada fila(rs_);
     Descarregar_Formulari(QStringLiteral("F_CERCA"));

@@ -20,6 +20,8 @@ class Llista : public Formulari {
  protected:
   virtual std::string Sentencia() const = 0;
   virtual void Obrir_Fila() {}  // double click or Enter on the current row
+  // The current row may go to the field that asked for it; a list that says no has told the user why.
+  virtual bool Admet_Retorn() { return true; }
 
   // Tells the grid of the .ui file and its columns; before Carregar.
   void Muntar(Graella* graella, const std::vector<Columna_Graella>& columnes);

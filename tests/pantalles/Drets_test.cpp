@@ -76,7 +76,7 @@ class Drets : public Amb_Principal {
   Formulari_De_Prova* Formulari_Sencer(const char16_t* nom) {
     const QString text = Nom(nom);
     Registrar(qUtf8Printable(text));
-    auto* formulari = Obrir_I_Tenir(qUtf8Printable(text));
+    auto* formulari = Obrir_I_Tenir<Formulari_De_Prova>(qUtf8Printable(text));
     for (const Fila_Drets& fila : Taula_De_Drets()) {
       if (text != QStringView(fila.formulari)) continue;
       for (const char16_t* control : fila.controls) {
@@ -188,7 +188,7 @@ TEST_F(Drets, Invoicing_asks_for_its_own_right_and_for_one_customer) {
   sessio.P_Factures = "M";
   EXPECT_FALSE(Actiu(llista, "B_FACT"));
   Registrar("F_ALBARANSS");
-  auto* client = Obrir_I_Tenir("F_ALBARANSS")->Posar<Combo_Codi>("CMB_CLIENT");
+  auto* client = Obrir_I_Tenir<Formulari_De_Prova>("F_ALBARANSS")->Posar<Combo_Codi>("CMB_CLIENT");
   EXPECT_FALSE(Actiu(llista, "B_FACT"));
   client->Posar("B1", "Ferreteria Soler");
   EXPECT_TRUE(Actiu(llista, "B_FACT"));
@@ -201,7 +201,7 @@ TEST_F(Drets, Invoicing_asks_for_its_own_right_and_for_one_customer) {
 
 TEST_F(Drets, A_control_that_the_form_has_not_is_passed_over) {
   Registrar("F_CLIENTSM");
-  auto* llista = Obrir_I_Tenir("F_CLIENTSM");
+  auto* llista = Obrir_I_Tenir<Formulari_De_Prova>("F_CLIENTSM");
   llista->Posar<QPushButton>("B_NouClient");
   sessio.P_Clients = "C";
   EXPECT_FALSE(Actiu(llista, "B_NouClient"));

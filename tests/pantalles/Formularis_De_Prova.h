@@ -76,11 +76,11 @@ class Amb_Principal : public Base_Pantalles {
     const QString text = QString::fromLatin1(nom);
     Registrar_Formulari(text, [=] { return new Llista_De_Prova(text, sentencia, columnes); });
   }
-  template <class Tipus = Formulari_De_Prova>
+  template <class Tipus = Formulari>
   static Tipus* Obert(const char* nom) {
-    return static_cast<Tipus*>(Formulari_De_Nom(QString::fromLatin1(nom)));
+    return dynamic_cast<Tipus*>(Formulari_De_Nom(QString::fromLatin1(nom)));
   }
-  template <class Tipus = Formulari_De_Prova>
+  template <class Tipus = Formulari>
   static Tipus* Obrir_I_Tenir(const char* nom) {
     Obrir(QString::fromLatin1(nom));
     return Obert<Tipus>(nom);

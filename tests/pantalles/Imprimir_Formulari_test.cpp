@@ -96,7 +96,7 @@ TEST_F(Imprimir_Un_Formulari, Two_grids_come_one_after_the_other) {
 
 TEST_F(Imprimir_Un_Formulari, Without_a_grid_its_image_is_printed) {
   Registrar("F_HELP");
-  Obrir_I_Tenir("F_HELP")->Posar<QLineEdit>("TXT_EMAIL");
+  Obrir_I_Tenir<Formulari_De_Prova>("F_HELP")->Posar<QLineEdit>("TXT_EMAIL");
   const Pagina pagina = Pagines_De_Formulari(*Obert("F_HELP")).pagines.at(0);
   const auto imatges = std::count_if(pagina.begin(), pagina.end(),
                                      [](const Element& e) { return std::holds_alternative<Imatge_Posada>(e); });
