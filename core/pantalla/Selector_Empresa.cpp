@@ -33,7 +33,7 @@ Selector_Empresa::Selector_Empresa(const std::string& actual)
   for (const auto& empresa : empreses_) {
     llista_->setItem(fila, 0, new QTableWidgetItem(QString::fromStdString(empresa.nif)));
     llista_->setItem(fila, 1, new QTableWidgetItem(QString::fromStdString(empresa.nom)));
-    if (empresa.nif == actual || fila == 0) llista_->selectRow(fila);
+    if (empresa.nif == actual || fila == 0) llista_->setCurrentCell(fila, 1);  // letters typed look for a name
     ++fila;
   }
   auto* botons = new QDialogButtonBox(this);
