@@ -156,3 +156,59 @@ std::string Proxim_Codi(const std::string& taula) {
   for (; !rs.Eof() && rs["CODI"].Text() == codi_de(i); rs.MoveNext()) ++i;
   return codi_de(i);
 }
+
+// ---- The users themselves ---------------------------------------------------------------------------------------
+
+std::string Nou_Usuari() {
+  const std::string codi = Proxim_Codi("USUARIS");
+  Recordset rs(SQL_Usuari(codi), sessio.Connexio_Comuna, Bloqueig::Optimista);
+  rs.AddNew();
+  rs.Set("CODI_USU", codi);
+  rs.Set("DESCRIPCIO_USU", "Usuari" + codi);
+  rs.Set("CLAU_USU", "");
+  rs.Set("ACTIU_USU", "S");
+  rs.Set("IDIOMA_USU", sessio.Idioma_Actual);
+  for (const Dret& dret : drets) rs.Set(dret.columna, "X");
+  rs.Update();
+  return codi;
+}
+
+void Esborrar_Usuari(const std::string& codi, const std::string& descripcio) {
+  const std::string pregunta =
+      Missatge("Segur d'esborrar l'usuari ", "¿Seguro de eliminar el usuario ", "Are you sure to delete user ");
+  if (sessio.pantalla->Caixa(pregunta + descripcio + " ?", estil::ok_cancel) != Resposta::Ok) return;
+  if (codi == "ADMIN" || codi == sessio.Usuari_Actual) {
+    sessio.pantalla->Caixa(Missatge("No es pot esborrar ni l'Administrador ni l'usuari Actual.",
+                                    "No se pueden eliminar ni Administrador ni el usuario actual.",
+                                    "Unable to delete Admin or current User."),
+                           estil::simple);
+    return;
+  }
+  sessio.Connexio_Comuna.Execute("DELETE * FROM USUARIS WHERE CODI_USU = " + Text_SQL(codi));
+}
+
+std::string SQL_Usuaris() {
+  return "SELECT CODI_USU, DESCRIPCIO_USU, ACTIU_USU, DESCRIPTION FROM USUARIS, LANGUAGES "
+         "WHERE USUARIS.IDIOMA_USU = LANGUAGES.ID";
+}
+
+std::string SQL_Usuari(const std::string& codi) {
+  std::string columnes = "CODI_USU, DESCRIPCIO_USU, CLAU_USU, ACTIU_USU, IDIOMA_USU";
+  for (const Dret& dret : drets) columnes += std::string(", ") + dret.columna;
+  return "SELECT " + columnes + " FROM USUARIS WHERE CODI_USU = " + Text_SQL(codi);
+}
+
+bool Es_Actiu_Valid(const std::string& valor) {
+  return valor == "S" || valor == "N";
+}
+void Avisar_Actiu_Invalid() {
+  sessio.pantalla->Caixa(Missatge("Valors Autoritzats: S/N", "Valores Autorizados: S/N", "Allowed Values: S/N"),
+                         estil::critic);
+}
+bool Es_Dret_Valid(const std::string& valor) {
+  return valor == "M" || valor == "C" || valor == "X";
+}
+void Avisar_Dret_Invalid() {
+  sessio.pantalla->Caixa(Missatge("Valors Autoritzats: M/C/X", "Valores Autorizados: M/C/X", "Allowed Values: M/C/X"),
+                         estil::critic);
+}

@@ -15,3 +15,19 @@ bool Te_Acces(const std::string& dret);  // "C", "S" or "M", exactly
 void Actualitzar_Menu_Sessio();
 // First free ten-digit code of a table (ARTICLES, CLIENTS, PROVEIDORS, USUARIS, FAMILIES, EMPRESES).
 std::string Proxim_Codi(const std::string& taula);
+
+// Creates a user named "Usuari" and its code, active, without a password or any access, in the session's language.
+// Returns the code. Raises 80004005 when another terminal took the code at the same moment.
+std::string Nou_Usuari();
+// Asks, naming the user, and deletes it. The administrator and the user at work are not deleted: a box says so.
+void Esborrar_Usuari(const std::string& codi, const std::string& descripcio);
+
+// Statements of the list and of the editor.
+std::string SQL_Usuaris();
+std::string SQL_Usuari(const std::string& codi);
+
+// What the editor takes: "S" or "N" for an active user, "M", "C" or "X" for a right, exactly. Each box says so.
+bool Es_Actiu_Valid(const std::string& valor);
+void Avisar_Actiu_Invalid();
+bool Es_Dret_Valid(const std::string& valor);
+void Avisar_Dret_Invalid();

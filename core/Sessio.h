@@ -58,6 +58,7 @@ struct Sessio {
   bool Entrada_Bloquejada = false;  // the system's input is blocked
 
   std::int64_t Numero_Albara = 0;  // the note that F_Albara is to open
+  std::string Codi_Usuari;         // the user that F_Usuari is to open
 
   std::set<std::string, std::less<>> Bloquejos;  // codes of LOCKS whose form, on this terminal, holds a lock
 

@@ -1,10 +1,7 @@
 #include "sales/F_Llista_Documents.h"
 
-#include <QPushButton>
-
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Locks.h"
-#include "core/pantalla/Aparenca.h"
 #include "core/pantalla/Control_Interface.h"
 
 namespace {
@@ -18,15 +15,6 @@ void Mostrar_Refus(const Error_Brollador& error) {
 }  // namespace
 
 Llista_Documents::Llista_Documents(const QString& nom, const Tipus_Document& tipus) : Llista(nom), tipus_(tipus) {}
-
-void Llista_Documents::Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir) {
-  Dibuixar(nou, Dibuix::Nou);
-  Dibuixar(esborrar, Dibuix::Esborrar);
-  Dibuixar(sortir, Dibuix::Sortir);
-  connect(nou, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Nou(); }); });
-  connect(esborrar, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Esborrar_Fila(); }); });
-  connect(sortir, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
-}
 
 void Llista_Documents::Nou() {
   Valor numero;

@@ -4,8 +4,6 @@
 #include "core/pantalla/Llista.h"
 #include "sales/Documents.h"
 
-class QPushButton;
-
 class Llista_Documents : public Llista {
   Q_OBJECT
  public:
@@ -16,13 +14,12 @@ class Llista_Documents : public Llista {
   virtual void Esborrar(const Valor& numero) = 0;       // asks and deletes
   virtual void Passar_Numero(const Valor& numero) = 0;  // to the editor that opens
 
-  void Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir);
+  void Nou() override;
   void Obrir_Fila() override;
+  void Esborrar_Fila() override;
 
  private:
-  void Nou();
   void Obrir_Editor(const Valor& numero, const char* proposit);
-  void Esborrar_Fila();
 
   const Tipus_Document& tipus_;
 };

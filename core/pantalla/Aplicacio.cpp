@@ -6,6 +6,8 @@
 #include "core/F_Help.h"
 #include "core/F_Principal.h"
 #include "core/F_Subinici.h"
+#include "core/F_Usuari.h"
+#include "core/F_UsuarisM.h"
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Inici.h"
 #include "core/M_Usuaris.h"
@@ -22,6 +24,8 @@ void Registrar_Formularis() {
   Registrar_Formulari(QStringLiteral("F_SUBINICI"), [] { return new F_Subinici; });
   Registrar_Formulari(QStringLiteral("F_CERCA"), [] { return new F_Cerca; });
   Registrar_Formulari(QStringLiteral("F_HELP"), [] { return new F_Help; });
+  Registrar_Formulari(QStringLiteral("F_USUARISM"), [] { return new F_UsuarisM; });
+  Registrar_Formulari(QStringLiteral("F_USUARI"), [] { return new F_Usuari; });
   Registrar_Formularis_Venda();
 }
 

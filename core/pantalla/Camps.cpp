@@ -12,15 +12,18 @@
 namespace {
 
 bool retencio_pendent = false;
+Qt::FocusReason motiu_de_sortir = Qt::OtherFocusReason;
 
 bool Canvia_De_Finestra(Qt::FocusReason motiu) {
   return motiu == Qt::ActiveWindowFocusReason || motiu == Qt::PopupFocusReason || motiu == Qt::MenuBarFocusReason;
 }
 
-// The button that closes the form is never refused: nobody is kept in it by what a field holds.
+// The button that closes the form is never refused: nobody is kept in it by what a field holds. Who only comes past it
+// with the Tab key does not go yet.
 bool Se_N_Va() {
   const QWidget* ara = QApplication::focusWidget();
-  return ara != nullptr && ara->objectName() == u"B_Exit";
+  const bool de_pas = motiu_de_sortir == Qt::TabFocusReason || motiu_de_sortir == Qt::BacktabFocusReason;
+  return ara != nullptr && ara->objectName() == u"B_Exit" && !de_pas;
 }
 
 const Formulari* Formulari_De(const QWidget* camp) {
@@ -56,7 +59,9 @@ class Vigia_De_Focus : public QObject {
  protected:
   bool eventFilter(QObject* objecte, QEvent* event) override {
     if (event->type() == tipus_ && !retencio_pendent) {
-      const bool fora = Canvia_De_Finestra(static_cast<QFocusEvent*>(event)->reason());
+      const auto motiu = static_cast<QFocusEvent*>(event)->reason();
+      const bool fora = Canvia_De_Finestra(motiu);
+      if (tipus_ == QEvent::FocusOut) motiu_de_sortir = motiu;
       const QPointer<QObject> viu(objecte);
       if (!fora && Va_D_Un_Camp_A_Un_Altre(static_cast<QWidget*>(parent()))) rutina_();
       if (!viu) return true;

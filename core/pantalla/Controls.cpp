@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QRadioButton>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QWidgetAction>
 
@@ -78,12 +79,30 @@ void Selector_Data::Obrir_Calendari() {
 
 // ---- Combo_Codi -------------------------------------------------------------------------------------------------
 
+namespace {
+
+// An entry of the open list: the name, and its note.
+class Pintor_Amb_Nota : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* opcio, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(opcio, index);
+    const QString nota = index.data(paper_nota).toString();
+    if (!nota.isEmpty()) opcio->text += QStringLiteral("   ") + nota;
+  }
+};
+
+}  // namespace
+
 Combo_Codi::Combo_Codi(QWidget* pare) : QComboBox(pare) {
   setEditable(true);
   setInsertPolicy(NoInsert);
   setMaxVisibleItems(15);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(20);
+  setItemDelegate(new Pintor_Amb_Nota(this));
   completer()->setCompletionMode(QCompleter::PopupCompletion);
   completer()->setFilterMode(Qt::MatchContains);
   completer()->setCaseSensitivity(Qt::CaseInsensitive);
@@ -91,14 +110,17 @@ Combo_Codi::Combo_Codi(QWidget* pare) : QComboBox(pare) {
   En_Sortir(this, [this] { Deixar(); });
 }
 
-void Combo_Codi::Omplir(const std::string& sentencia, Connexio& connexio, const char* camp_codi, const char* camp_nom) {
+void Combo_Codi::Omplir(const std::string& sentencia, Connexio& connexio, const char* camp_codi, const char* camp_nom,
+                        const char* camp_nota) {
   const Recordset rs(sentencia, connexio);
   const int codi = rs.Index_Camp(camp_codi);
   const int nom = rs.Index_Camp(camp_nom);
+  const int nota = camp_nota == nullptr ? -1 : rs.Index_Camp(camp_nota);
   clear();
   for (std::int64_t fila = 0; fila < rs.RecordCount(); ++fila) {
     addItem(QString::fromStdString(rs.Valor_De_Fila(fila, nom).Text()),
             QString::fromStdString(rs.Valor_De_Fila(fila, codi).Text()));
+    if (nota >= 0) setItemData(count() - 1, QString::fromStdString(rs.Valor_De_Fila(fila, nota).Text()), paper_nota);
   }
   Posar({}, {});
 }
@@ -116,6 +138,11 @@ void Combo_Codi::Posar(const std::string& codi, const std::string& nom) {
   setCurrentIndex(codi_.isEmpty() ? -1 : findData(codi_));
   setEditText(nom_);
   lineEdit()->setCursorPosition(0);
+}
+
+void Combo_Codi::Posar(const std::string& codi) {
+  const int index = codi.empty() ? -1 : findData(QString::fromStdString(codi));
+  Posar(codi, index < 0 ? codi : itemText(index).toStdString());
 }
 
 void Combo_Codi::Triar(const std::string& codi, const std::string& nom) {

@@ -34,15 +34,20 @@ class Selector_Data : public QWidget {
 };
 
 // A combo that shows a name and stands for the code behind it. CMB_*
+constexpr int paper_nota = Qt::UserRole + 1;  // of its entries: the note beside the name
+
 class Combo_Codi : public QComboBox {
   Q_OBJECT
  public:
   explicit Combo_Codi(QWidget* pare = nullptr);
-  // Fills it from a statement; the user sees `camp_nom`, the value is `camp_codi`. Nothing is chosen then.
-  void Omplir(const std::string& sentencia, Connexio& connexio, const char* camp_codi, const char* camp_nom);
+  // Fills it from a statement; the user sees `camp_nom`, the value is `camp_codi`, and the open list may tell a note
+  // beside the name. Nothing is chosen then.
+  void Omplir(const std::string& sentencia, Connexio& connexio, const char* camp_codi, const char* camp_nom,
+              const char* camp_nota = nullptr);
   std::string Codi() const;  // empty: none
   std::string Nom() const;
   void Posar(const std::string& codi, const std::string& nom);  // also a name that the list does not hold
+  void Posar(const std::string& codi);                          // the name is that of the list, or the code itself
   void Triar(const std::string& codi, const std::string& nom);  // the same, as the user's choice
 
  Q_SIGNALS:

@@ -1,6 +1,9 @@
 #include "core/pantalla/Llista.h"
 
+#include <QPushButton>
+
 #include "core/M_Funcions_Comuns.h"
+#include "core/pantalla/Aparenca.h"
 #include "core/pantalla/Control_Interface.h"
 #include "core/pantalla/Crides.h"
 #include "core/pantalla/Drets.h"
@@ -10,6 +13,15 @@ void Llista::Muntar(Graella* graella, const std::vector<Columna_Graella>& column
   graella_ = graella;
   graella_->Columnes(columnes);
   connect(graella_, &Graella::Doble_Clic, this, [this] { Guardar_Event([this] { Triar_Fila(); }); });
+}
+
+void Llista::Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir) {
+  Dibuixar(nou, Dibuix::Nou);
+  Dibuixar(esborrar, Dibuix::Esborrar);
+  Dibuixar(sortir, Dibuix::Sortir);
+  connect(nou, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Nou(); }); });
+  connect(esborrar, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Esborrar_Fila(); }); });
+  connect(sortir, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
 }
 
 // For the field that asked for it, or to be opened. A filtered list is whole again before its row is opened, and a row

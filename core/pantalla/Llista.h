@@ -8,6 +8,8 @@
 #include "core/pantalla/Formulari.h"
 #include "core/pantalla/Graella.h"
 
+class QPushButton;
+
 class Llista : public Formulari {
   Q_OBJECT
  public:
@@ -20,11 +22,14 @@ class Llista : public Formulari {
  protected:
   virtual std::string Sentencia() const = 0;
   virtual void Obrir_Fila() {}  // double click or Enter on the current row
+  virtual void Nou() {}
+  virtual void Esborrar_Fila() {}
   // The current row may go to the field that asked for it; a list that says no has told the user why.
   virtual bool Admet_Retorn() { return true; }
 
   // Tells the grid of the .ui file and its columns; before Carregar.
   void Muntar(Graella* graella, const std::vector<Columna_Graella>& columnes);
+  void Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir);
   // The rows as they stand now, back on the row where the list was.
   void Requerir();
 

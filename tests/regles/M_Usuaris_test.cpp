@@ -289,3 +289,57 @@ TEST_F(Proxim_Codi_Taula, knows_the_code_column_of_each_table) {
   EXPECT_EQ(Proxim_Codi("USUARIS"), "0000000001");
   EXPECT_EQ(Proxim_Codi("EMPRESES"), "0000000001");
 }
+
+// ---- The users themselves
+
+TEST_F(M_Usuaris, a_new_user_is_active_without_password_or_access_in_the_language_of_the_session) {
+  sessio.Idioma_Actual = 2;
+  EXPECT_EQ(Nou_Usuari(), "0000000001");
+  const Recordset rs("SELECT * FROM USUARIS WHERE CODI_USU = '0000000001'", sessio.Connexio_Comuna);
+  ASSERT_EQ(rs.RecordCount(), 1);
+  EXPECT_EQ(rs["DESCRIPCIO_USU"].Text(), "Usuari0000000001");
+  EXPECT_EQ(rs["CLAU_USU"], Valor(""));
+  EXPECT_EQ(rs["ACTIU_USU"].Text(), "S");
+  EXPECT_EQ(rs["IDIOMA_USU"].Enter(), 2);
+  for (const char* dret : {"P_CLIENTS", "P_PROVEIDORS", "P_ARTICLES", "P_USUARIS", "P_CP", "P_VENCIMENTS",
+                           "P_PRESSUPOSTOS", "P_COMANDES", "P_ALBARANS", "P_FACTURES"})
+    EXPECT_EQ(rs[dret].Text(), "X") << dret;
+  EXPECT_EQ(Nou_Usuari(), "0000000002");
+}
+
+TEST_F(M_Usuaris, a_user_is_deleted_once_the_question_is_answered) {
+  Posar_Usuari();
+  pantalla.respostes = {Resposta::Cancel, Resposta::Ok};
+  Esborrar_Usuari("ANNA", "Anna");
+  EXPECT_EQ(Files("SELECT * FROM USUARIS WHERE CODI_USU = 'ANNA'"), 1);
+  Esborrar_Usuari("ANNA", "Anna");
+  EXPECT_EQ(Files("SELECT * FROM USUARIS WHERE CODI_USU = 'ANNA'"), 0);
+  const Caixa_Vista pregunta{"Segur d'esborrar l'usuari Anna ?", 1, "Brollador"};
+  EXPECT_EQ(pantalla.caixes, (std::vector<Caixa_Vista>{pregunta, pregunta}));
+}
+
+TEST_F(M_Usuaris, neither_the_administrator_nor_who_is_at_work_is_deleted) {
+  Posar_Usuari();
+  const Caixa_Vista no_es_pot{"No es pot esborrar ni l'Administrador ni l'usuari Actual.", 0, "Brollador"};
+  for (const auto& [qui, actual] :
+       {std::pair("ADMIN", "ANNA"), std::pair("ADMIN", "ADMIN"), std::pair("ANNA", "ANNA")}) {
+    sessio.Usuari_Actual = actual;
+    pantalla.caixes.clear();
+    pantalla.respostes = {Resposta::Ok};
+    Esborrar_Usuari(qui, "Algú");
+    ASSERT_EQ(pantalla.caixes.size(), 2U);
+    EXPECT_EQ(pantalla.caixes[1], no_es_pot);
+    EXPECT_EQ(Files("SELECT * FROM USUARIS"), 2);
+  }
+}
+
+TEST_F(M_Usuaris, the_editor_takes_S_and_N_and_the_letters_M_C_and_X_exactly) {
+  for (const char* valor : {"S", "N"}) EXPECT_TRUE(Es_Actiu_Valid(valor)) << valor;
+  for (const char* valor : {"", "s", "X", "SN", "Sí"}) EXPECT_FALSE(Es_Actiu_Valid(valor)) << valor;
+  for (const char* valor : {"M", "C", "X"}) EXPECT_TRUE(Es_Dret_Valid(valor)) << valor;
+  for (const char* valor : {"", "m", "S", "MC"}) EXPECT_FALSE(Es_Dret_Valid(valor)) << valor;
+  Avisar_Actiu_Invalid();
+  Avisar_Dret_Invalid();
+  EXPECT_EQ(pantalla.caixes, (std::vector<Caixa_Vista>{{"Valors Autoritzats: S/N", 16, "Brollador"},
+                                                       {"Valors Autoritzats: M/C/X", 16, "Brollador"}}));
+}

@@ -132,7 +132,8 @@ void Tab(const QStringList& mots) {
 void Pick(const QStringList& mots) {
   auto& combo = De_Tipus<QComboBox>(Control_Usable(mots[1]), mots[1], "combo");
   Exigeix_Focus(combo, mots[1]);
-  const int quina = combo.findText(mots[2], Qt::MatchExactly | Qt::MatchCaseSensitive);
+  int quina = combo.findText(mots[2], Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (quina < 0) quina = combo.findData(mots[2], paper_nota, Qt::MatchExactly | Qt::MatchCaseSensitive);
   if (quina < 0) throw Error_Guio(QStringLiteral("%1 has no entry that shows it").arg(mots[1]));
   combo.showPopup();
   Calmar();

@@ -1,0 +1,84 @@
+#include "core/pantalla/Lligam.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+
+#include "core/dades/Numeros.h"
+#include "core/pantalla/Camps.h"
+#include "core/pantalla/Controls.h"
+#include "core/pantalla/Formulari.h"
+
+namespace {
+
+bool Es_De_Nombre(Tipus_Columna tipus) {
+  return tipus == Tipus_Columna::Llarg || tipus == Tipus_Columna::Curt || tipus == Tipus_Columna::Doble ||
+         tipus == Tipus_Columna::Autonumeric;
+}
+
+Valor Nombre_Escrit(const QString& text, Tipus_Columna tipus, const QWidget& control) {
+  const auto nombre = Numero_De_Text(text.trimmed().toStdString());
+  if (!nombre) Llancar_Error(errors::tipus, control.objectName().toStdString(), text.left(40).toStdString());
+  return tipus == Tipus_Columna::Doble ? Valor(*nombre) : Valor(Valor(*nombre).Enter());
+}
+
+}  // namespace
+
+void Lligam::Mostrar(const Valor& valor) {
+  const QString text = QString::fromStdString(valor.Text());
+  if (auto* numeric = qobject_cast<Camp_Numeric*>(control_); numeric != nullptr && !valor.Es_Nul()) {
+    numeric->Numero(valor.Doble());
+  } else if (auto* camp = qobject_cast<QLineEdit*>(control_)) {
+    camp->setText(text);
+    camp->setCursorPosition(0);
+  } else if (auto* casella = qobject_cast<QCheckBox*>(control_)) {
+    casella->setChecked(!valor.Es_Nul() && valor.Boolea());
+  } else if (auto* data = qobject_cast<Selector_Data*>(control_)) {
+    data->Data(valor.Es_Nul() ? std::nullopt : std::optional(valor.Data()));
+  } else if (auto* combo = qobject_cast<Combo_Codi*>(control_)) {
+    combo->Posar(valor.Text());
+  }
+  mostrat_ = Estat();
+}
+
+QString Lligam::Estat() const {
+  if (const auto* camp = qobject_cast<QLineEdit*>(control_)) return camp->text();
+  if (const auto* casella = qobject_cast<QCheckBox*>(control_)) return casella->isChecked() ? QString(u'x') : QString();
+  if (const auto* data = qobject_cast<Selector_Data*>(control_)) return data->Text();
+  if (const auto* combo = qobject_cast<Combo_Codi*>(control_)) return QString::fromStdString(combo->Codi());
+  return {};
+}
+
+bool Lligam::Canviat() const {
+  return Estat() != mostrat_;
+}
+
+Valor Lligam::Escrit() const {
+  if (const auto* casella = qobject_cast<QCheckBox*>(control_)) return casella->isChecked();
+  if (const auto* data = qobject_cast<Selector_Data*>(control_)) return data->Data() ? Valor(*data->Data()) : Valor();
+  const QString text = Estat();
+  if (text.isEmpty()) return {};
+  return Es_De_Nombre(tipus_) ? Nombre_Escrit(text, tipus_, *control_) : Valor(text.toStdString());
+}
+
+void Lligam::En_Canviar(const std::function<void()>& rutina) const {
+  if (auto* casella = qobject_cast<QCheckBox*>(control_)) {
+    QObject::connect(casella, &QCheckBox::clicked, casella, rutina);
+  } else if (auto* data = qobject_cast<Selector_Data*>(control_)) {
+    QObject::connect(data, &Selector_Data::Canviada, data, rutina);
+  } else if (auto* combo = qobject_cast<Combo_Codi*>(control_)) {
+    QObject::connect(combo, &Combo_Codi::Triat, combo, rutina);
+  } else {
+    En_Sortir(control_, rutina);
+  }
+}
+
+std::vector<Lligam> Lligams_De(const Formulari& formulari, const Recordset& rs) {
+  std::vector<Lligam> lligams;
+  for (const Camp& camp : rs.Fields()) {
+    for (const auto* paper : {"TXT_", "CHK_", "DT_", "CMB_"}) {
+      QWidget* control = formulari.Cercar_Control(QString::fromStdString(paper + camp.nom));
+      if (control != nullptr) lligams.emplace_back(control, camp);
+    }
+  }
+  return lligams;
+}

@@ -1,0 +1,40 @@
+// A control that shows a column of a row and takes what the user puts there: text fields, numbers under their mask,
+// check boxes, dates, combos of codes.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/dades/Recordset.h"
+
+class Formulari;
+class QWidget;
+
+class Lligam {
+ public:
+  Lligam(QWidget* control, const Camp& camp) : control_(control), columna_(camp.nom), tipus_(camp.tipus) {}
+
+  QWidget* Control() const { return control_; }
+  const std::string& Columna() const { return columna_; }
+
+  void Mostrar(const Valor& valor);
+  // The control does not hold any more what Mostrar put there.
+  bool Canviat() const;
+  // What it holds, for its column: an empty field is null. Raises 13 for a text where a number has to be.
+  Valor Escrit() const;
+  // `rutina` runs when the user leaves it (a field) or chooses in it (a box, a date, a combo).
+  void En_Canviar(const std::function<void()>& rutina) const;
+
+ private:
+  QString Estat() const;
+
+  QWidget* control_;
+  std::string columna_;
+  Tipus_Columna tipus_;
+  QString mostrat_;
+};
+
+// The controls of a form that are named after a column of the recordset: TXT_, CHK_, DT_ or CMB_ and its name.
+std::vector<Lligam> Lligams_De(const Formulari& formulari, const Recordset& rs);
