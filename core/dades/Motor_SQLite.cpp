@@ -51,7 +51,16 @@ struct Preparada {
   bool escriu = false;
 };
 
-Base Obrir_Base(const std::string& cami, int mode, int espera) {
+// A file that another terminal writes is looked at again every few milliseconds, each time after another while: the
+// engine's own waits grow long, and a terminal that has waited much would be the last to come in.
+int Esperar_Torn(void* limit, int vegades) {
+  constexpr int pas = 2000;  // microseconds
+  if (static_cast<std::int64_t>(vegades) * pas / 1000 >= *static_cast<const int*>(limit)) return 0;
+  usleep(static_cast<useconds_t>(pas / 2 + (vegades * 7 + getpid()) % pas));
+  return 1;
+}
+
+Base Obrir_Base(const std::string& cami, int mode) {
   sqlite3* oberta = nullptr;
   const int codi = sqlite3_open_v2(cami.c_str(), &oberta, mode, nullptr);
   Base base(oberta);
@@ -60,7 +69,6 @@ Base Obrir_Base(const std::string& cami, int mode, int espera) {
     throw Error_Brollador(errors::general, "SQLite", paraules + " (" + std::to_string(codi) + "): " + cami);
   }
   sqlite3_extended_result_codes(base.get(), 1);
-  sqlite3_busy_timeout(base.get(), espera);
   // A name between double quotes is a name: one that is no column is an error, not a text.
   sqlite3_db_config(base.get(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   Registrar_Funcions_SQLite(base.get());
@@ -70,7 +78,10 @@ Base Obrir_Base(const std::string& cami, int mode, int espera) {
 class Motor_SQLite final : public Motor {
  public:
   Motor_SQLite(const std::string& cami, int espera)
-      : base_(Obrir_Base(cami, SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE, espera)), retencio_(cami + "-edicions") {
+      : espera_(espera),
+        base_(Obrir_Base(cami, SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE)),
+        retencio_(cami + "-edicions") {
+    sqlite3_busy_handler(base_.get(), Esperar_Torn, &espera_);
     if (sqlite3_db_readonly(base_.get(), "main") == 1) {
       throw Error_Brollador(errors::general, "SQLite", "attempt to write a readonly database (8): " + cami);
     }
@@ -286,6 +297,7 @@ class Motor_SQLite final : public Motor {
     }
   }
 
+  int espera_;  // milliseconds that a locked file is waited for
   Base base_;
   Cataleg taules_;
   std::list<Preparada> preparades_;  // the last used first
@@ -308,7 +320,7 @@ void Crear_Fitxer_SQLite(const std::string& cami) {
     throw Error_Brollador(errors::general, "SQLite", cami + ": " + std::strerror(errno));
   }
   close(fitxer);
-  const Base base = Obrir_Base(cami, SQLITE_OPEN_READWRITE, 0);
+  const Base base = Obrir_Base(cami, SQLITE_OPEN_READWRITE);
   const char* esquema =
       "CREATE TABLE ESQUEMA (ORDRE INTEGER PRIMARY KEY, TAULA TEXT NOT NULL, COLUMNA TEXT NOT NULL, "
       "TIPUS TEXT NOT NULL, CLAU INTEGER NOT NULL) STRICT";

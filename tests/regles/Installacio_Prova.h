@@ -181,6 +181,8 @@ class Installacio_Prova {
 
   std::string Dir_Dades() const { return carpeta_.Cami() + "/brollador"; }
 
+  const std::optional<Base_Servidor>& Base() const { return base_; }  // when it stands on the server
+
   Pantalla_Falsa pantalla;
 
  private:
