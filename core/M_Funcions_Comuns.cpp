@@ -82,6 +82,12 @@ Data_Hora Data_Hora_Servidor() {
   return rs.RecordCount() > 0 ? rs["DATA_HORA_SERVER"].Data() : Ara();
 }
 
+void Tancar_Recordsets_Informe() {
+  if (sessio.Recordset_Cerca != nullptr)
+    sessio.Recordsets_Informe.insert(std::exchange(sessio.Recordset_Cerca, nullptr));
+  for (Recordset* rs : std::exchange(sessio.Recordsets_Informe, {})) rs->Close();
+}
+
 void Esperar(std::int32_t segons) {
   constexpr int segons_dia = 24 * 60 * 60;
   int ara = Segons_Del_Dia();

@@ -32,6 +32,9 @@ Data_Hora Data_Hora_Servidor();
 // Goes back to a saved row after a requery: `posicio` rows from the first. Never raises.
 void Reposicionar(Recordset& rs, std::int64_t posicio);
 
+// Closes the recordsets that outlive their form, at the end of the program and before a backup.
+void Tancar_Recordsets_Informe();
+
 // Waits the seconds of the clock, letting events run. A wait that crosses midnight ends on the next day.
 void Esperar(std::int32_t segons);
 

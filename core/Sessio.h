@@ -49,9 +49,10 @@ struct Sessio {
 
   std::string Crida_Mestre;
   std::string Crida_Document;
-  std::string Formulari_Actiu;           // the list that F_Cerca works on
-  Recordset* Recordset_Cerca = nullptr;  // its recordset
-  std::string Pag_Document;              // letter of the document whose payments F_PagDoc shows: A, P or F
+  std::string Formulari_Actiu;              // the list that F_Cerca works on
+  Recordset* Recordset_Cerca = nullptr;     // its recordset
+  std::set<Recordset*> Recordsets_Informe;  // of pickers and reports that outlive the form that opened them
+  std::string Pag_Document;                 // letter of the document whose payments F_PagDoc shows: A, P or F
   std::int32_t Posicio_Guardada = 0;
   bool Nomes_Pendents = false;      // the last search button asked for pending documents only
   bool Error_Mostrat = false;       // the failure under way has been shown

@@ -75,6 +75,7 @@ bool Inici_Aplicacio() {
 
 void Acabar_Aplicacio() {
   Descarregar_Tots();
+  Tancar_Recordsets_Informe();
   Tancar_Connexions();
   QCoreApplication::quit();
 }

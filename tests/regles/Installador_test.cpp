@@ -273,3 +273,58 @@ TEST_F(Brollador_Install, a_company_needs_a_tax_code_and_a_name) {
   EXPECT_EQ(Executar("--empty --data '" + carpeta + "' --company-nif \"B'17\" --company-name X --password ''"), 1);
   EXPECT_TRUE(Res_No_Queda());
 }
+
+// ---- On a server
+
+class Installador_Al_Servidor : public Brollador_Install {
+ protected:
+  void SetUp() override {
+    if (!Proves_Al_Servidor()) GTEST_SKIP() << "of a server";
+  }
+  std::int64_t Files(const std::string& taula) const {
+    Connexio comuna;
+    comuna.Open(base.Adreca());
+    return Recordset("SELECT * FROM " + taula, comuna).RecordCount();
+  }
+  const Base_Servidor base;  // nothing behind it yet
+};
+
+TEST_F(Installador_Al_Servidor, the_database_is_made_there_and_further_terminals_find_it) {
+  EXPECT_EQ(Executar("--base --data '" + carpeta + "' --shared '" + base.Adreca() + "'"), 0) << sortida;
+  EXPECT_EQ(Contingut(carpeta + "/Brollador.ini"), "\"" + base.Adreca() + "\"\n");
+  EXPECT_FALSE(fs::exists(carpeta + "/comuna.db"));
+  EXPECT_EQ(Files("IVAS"), 4);
+  Crear_Terminal({.carpeta = temporal.Cami() + "/segon", .compartida = base.Adreca()});
+  EXPECT_EQ(Contingut(temporal.Cami() + "/segon/Brollador.ini"), Contingut(carpeta + "/Brollador.ini"));
+}
+
+TEST_F(Installador_Al_Servidor, an_installation_that_is_there_is_refused_and_left_as_it_was) {
+  Crear_Base(Opcions(base.Adreca()));
+  {
+    Connexio comuna;
+    comuna.Open(base.Adreca());
+    comuna.Execute("INSERT INTO FAMILIES (CODI_FAM) VALUES ('1')");
+  }
+  const Opcions_Installacio altra{.carpeta = temporal.Cami() + "/altra", .compartida = base.Adreca()};
+  EXPECT_EQ(Error_De([&] { Crear_Base(altra); }).Numero(), errors::fitxer_existent);
+  EXPECT_FALSE(fs::exists(altra.carpeta));
+  EXPECT_EQ(Files("FAMILIES"), 1);
+  EXPECT_EQ(Executar("--demo --data '" + altra.carpeta + "' --shared '" + base.Adreca() + "'"), 1);
+  EXPECT_EQ(Files("FAMILIES"), 1);
+}
+
+TEST_F(Installador_Al_Servidor, what_fails_half_way_leaves_no_table_there_and_a_second_try_works) {
+  const auto fallar = [] { throw Error_Brollador(errors::general, "prova", "the disk is full"); };
+  Error_De([&] { Crear_Buida(Opcions(base.Adreca()), {"B1", "Una SL", ""}, fallar); });
+  EXPECT_TRUE(Res_No_Queda());
+  EXPECT_EQ(Error_De([&] { Files("EMPRESES"); }).Numero(), errors::sentencia);
+  Crear_Base(Opcions(base.Adreca()));
+  EXPECT_EQ(Files("EMPRESES"), 1);
+}
+
+TEST_F(Installador_Al_Servidor, a_server_that_does_not_answer_says_so_and_leaves_nothing) {
+  EXPECT_EQ(Executar("--base --data '" + carpeta + "' --shared 'postgresql:///oficina?host=" + temporal.Cami() + "'"),
+            1);
+  EXPECT_NE(sortida.find(temporal.Cami()), std::string::npos) << sortida;
+  EXPECT_TRUE(Res_No_Queda());
+}

@@ -162,6 +162,22 @@ TEST(Crear_Directori, says_which_folder_cannot_be_made) {
   EXPECT_NE(Error_De([&] { Crear_Directori(cami); }).Descripcio().find("fitxer/"), std::string::npos);
 }
 
+TEST_F(M_Funcions_Comuns, recordsets_that_outlive_their_form_are_closed_once_and_forgotten) {
+  Recordset cerca("SELECT * FROM CLIENTS", sessio.Connexio_Comuna);
+  Recordset informe("SELECT * FROM IVAS", sessio.Connexio_Comuna);
+  Recordset llista("SELECT * FROM CP", sessio.Connexio_Comuna);
+  sessio.Recordset_Cerca = &cerca;
+  sessio.Recordsets_Informe = {&informe};
+  Tancar_Recordsets_Informe();
+  EXPECT_FALSE(cerca.State());
+  EXPECT_FALSE(informe.State());
+  EXPECT_TRUE(llista.State());
+  EXPECT_FALSE(Recordset_Registrat("SELECT * FROM IVAS"));
+  EXPECT_EQ(sessio.Recordset_Cerca, nullptr);
+  EXPECT_TRUE(sessio.Recordsets_Informe.empty());
+  Tancar_Recordsets_Informe();
+}
+
 TEST_F(M_Funcions_Comuns, a_loaded_form_is_found_whatever_the_case_of_its_name) {
   pantalla.formularis = {"F_CERCA"};
   EXPECT_TRUE(Formulari_Carregat("F_Cerca"));

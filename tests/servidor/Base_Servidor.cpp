@@ -76,3 +76,12 @@ std::string Base_Servidor::Adreca() const {
 void Base_Servidor::Tallar() const {
   Manar("SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE datname = '" + nom_ + "'");
 }
+
+void Base_Servidor::Marxar() const {
+  Manar("ALTER DATABASE " + nom_ + " ALLOW_CONNECTIONS false");
+  Tallar();
+}
+
+void Base_Servidor::Tornar() const {
+  Manar("ALTER DATABASE " + nom_ + " ALLOW_CONNECTIONS true");
+}

@@ -26,6 +26,9 @@ class Base_Servidor {
   std::string Adreca() const;
   // Ends every connection to it, as a server that is restarted does.
   void Tallar() const;
+  // It goes away, until it is asked to come back: nobody is connected, nobody gets in.
+  void Marxar() const;
+  void Tornar() const;
 
  private:
   std::string nom_;

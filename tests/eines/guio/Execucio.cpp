@@ -61,6 +61,7 @@ void Execucio::Executar_Aqui(const Ordre& ordre) {
       {"start", &Execucio::Start},
       {"terminal", &Execucio::Canviar_Terminal},
       {"kill", &Execucio::Kill},
+      {"server", &Execucio::Servidor},
       {"expect", &Execucio::Comprovar},
   };
   (this->*rutines.at(ordre.mots.first()))(ordre.mots);
@@ -191,6 +192,13 @@ void Execucio::Canviar_Terminal(const QStringList& mots) {
 void Execucio::Kill(const QStringList&) {
   if (!Actual().Engegat()) throw Error_Guio(QStringLiteral("the terminal is not running"));
   Actual().Matar();
+}
+
+void Execucio::Servidor(const QStringList& mots) {
+  const Base_Servidor& base = installacio_.Al_Servidor();
+  if (mots[1] == QLatin1String("away")) return base.Marxar();
+  if (mots[1] == QLatin1String("back")) return base.Tornar();
+  base.Tallar();
 }
 
 void Execucio::Comprovar(const QStringList& mots) {

@@ -37,6 +37,7 @@ class Execucio {
   void Start(const QStringList& mots);
   void Canviar_Terminal(const QStringList& mots);
   void Kill(const QStringList& mots);
+  void Servidor(const QStringList& mots);
 
   void Comprovar(const QStringList& mots);
   void Comprovar_Missatge(const QStringList& mots);

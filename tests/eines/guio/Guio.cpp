@@ -51,6 +51,7 @@ const std::vector<Forma>& Formes() {
       {"picture", {}, Final::Text, "NAME.png", true},
       {"terminal", {}, Final::Text, "N", false},
       {"kill", {}, Final::Cap, "", false},
+      {"server", {}, Final::Text, "away|back|cut", false, {"away", "back", "cut"}},
   };
   return formes;
 }

@@ -64,6 +64,11 @@ Terminal& Installacio::De_Numero(int numero) {
   return *terminal;
 }
 
+const Base_Servidor& Installacio::Al_Servidor() const {
+  if (!servidor_) throw Error_Guio(QStringLiteral("the shared database is on no server"));
+  return *servidor_;
+}
+
 Connexio& Installacio::Comuna() {
   return Obrir(comuna_, Adreca_Comuna());
 }

@@ -33,6 +33,7 @@ class Installacio {
   Terminal& De_Numero(int numero);
   std::map<int, std::unique_ptr<Terminal>>& Terminals() { return terminals_; }
   Connexio& Comuna();
+  const Base_Servidor& Al_Servidor() const;  // raises where the shared database is a file
   Connexio& Local(int numero);
 
  private:
