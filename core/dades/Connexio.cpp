@@ -98,8 +98,10 @@ void Esborrar_Base_Dades(const std::string& adreca) {
 }
 
 std::string Text_SQL(std::string_view valor) {
-  if (valor.find('\'') != std::string_view::npos) {
-    Llancar_Error(errors::sentencia, "Text_SQL", "'" + std::string(valor) + "'");
+  if (valor.find('\'') != std::string_view::npos || valor.find('\0') != std::string_view::npos) {
+    constexpr std::size_t prou = 60;  // of a text that a box can show
+    Llancar_Error(errors::sentencia, "Text_SQL",
+                  "'" + std::string(valor.substr(0, valor.find('\0')).substr(0, prou)) + "'");
   }
   return "'" + std::string(valor) + "'";
 }

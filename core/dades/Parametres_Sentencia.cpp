@@ -46,12 +46,18 @@ void Ordenar_Entre(const std::vector<std::pair<int, int>>& entre, std::vector<Va
   }
 }
 
+// A text ends where an engine of ours sees a nought: what stands behind it would be lost without a word.
+static Valor Text_Sencer(std::string text) {
+  if (text.find('\0') != std::string::npos) Llancar_Error(errors::tipus, "Convertir_A_Columna");
+  return text;
+}
+
 Valor Convertir_A_Columna(const Valor& valor, Tipus_Columna tipus) {
   if (valor.Es_Nul()) return {};
   switch (tipus) {
     case Tipus_Columna::Codi:
     case Tipus_Columna::Text:
-      return valor.Text();
+      return Text_Sencer(valor.Text());
     case Tipus_Columna::Curt:
       return Enter_Que_Hi_Cap<std::int16_t>(valor);
     case Tipus_Columna::Llarg:

@@ -13,5 +13,6 @@ void Ordenar_Entre(const std::vector<std::pair<int, int>>& entre, std::vector<Va
 // <0, 0, >0: numbers as numbers, dates as moments, anything else as texts without case.
 int Comparar_Valors(const Valor& a, const Valor& b);
 
-// A value as a column of this type holds it. Raises 6 when the number does not fit, 13 when it is of no such kind.
+// A value as a column of this type holds it. Raises 6 when the number does not fit, 13 when it is of no such kind (a
+// text with a nought in it is of none).
 Valor Convertir_A_Columna(const Valor& valor, Tipus_Columna tipus);

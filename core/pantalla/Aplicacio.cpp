@@ -20,15 +20,6 @@
 
 namespace {
 
-void Registrar_Formularis() {
-  Registrar_Formulari(QStringLiteral("F_SUBINICI"), [] { return new F_Subinici; });
-  Registrar_Formulari(QStringLiteral("F_CERCA"), [] { return new F_Cerca; });
-  Registrar_Formulari(QStringLiteral("F_HELP"), [] { return new F_Help; });
-  Registrar_Formulari(QStringLiteral("F_USUARISM"), [] { return new F_UsuarisM; });
-  Registrar_Formulari(QStringLiteral("F_USUARI"), [] { return new F_Usuari; });
-  Registrar_Formularis_Venda();
-}
-
 void Mostrar_Finestres() {
   auto* principal = new F_Principal;
   principal->setWindowTitle(QStringLiteral("Brollador 1.27.05"));
@@ -54,6 +45,15 @@ bool Aplicacio::notify(QObject* receptor, QEvent* event) {
     Formulari::Guardar_Event([error = std::current_exception()] { std::rethrow_exception(error); });
     return true;
   }
+}
+
+void Registrar_Formularis() {
+  Registrar_Formulari(QStringLiteral("F_SUBINICI"), [] { return new F_Subinici; });
+  Registrar_Formulari(QStringLiteral("F_CERCA"), [] { return new F_Cerca; });
+  Registrar_Formulari(QStringLiteral("F_HELP"), [] { return new F_Help; });
+  Registrar_Formulari(QStringLiteral("F_USUARISM"), [] { return new F_UsuarisM; });
+  Registrar_Formulari(QStringLiteral("F_USUARI"), [] { return new F_Usuari; });
+  Registrar_Formularis_Venda();
 }
 
 bool Inici_Aplicacio() {

@@ -10,6 +10,9 @@ class Aplicacio : public QApplication {
   bool notify(QObject* receptor, QEvent* event) override;
 };
 
+// Every screen of the program, by its name.
+void Registrar_Formularis();
+
 // Steps of the start up to the login form. False when it failed: the user has been told, and the process ends.
 bool Inici_Aplicacio();
 

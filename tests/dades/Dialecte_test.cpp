@@ -34,6 +34,7 @@ TEST(Text_SQL, Refuses_a_value_that_would_end_its_literal) {
   EXPECT_EQ(Text_SQL("Anoia"), "'Anoia'");
   EXPECT_EQ(Numero_Error([] { Text_SQL("d'Anoia"); }), errors::sentencia);
   EXPECT_EQ(Numero_Error([] { Text_SQL("x' OR 'a'='a"); }), errors::sentencia);
+  EXPECT_EQ(Numero_Error([] { Text_SQL(std::string("a\0b", 3)); }), errors::sentencia);
 }
 
 TEST_F(Dialecte, A_faulty_statement_runs_nothing) {

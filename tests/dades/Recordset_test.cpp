@@ -87,6 +87,13 @@ TEST_F(Conjunt, A_change_of_capitals_by_another_terminal_is_a_change) {
   EXPECT_EQ(Numero_Error([&] { rs.Update(); }), errors::concurrencia);
 }
 
+TEST_F(Conjunt, A_text_with_a_nought_in_it_is_refused_for_an_engine_would_cut_it) {
+  Client("1", "name");
+  Recordset rs("SELECT * FROM CLIENTS", connexio, Bloqueig::Optimista);
+  EXPECT_EQ(Numero_Error([&] { rs.Set("RAO_SOCIAL_CLI", std::string("a\0b", 3)); }), errors::tipus);
+  EXPECT_EQ(rs.EditMode(), Edicio::Cap);
+}
+
 TEST_F(Conjunt, Columns_that_are_not_written_do_not_conflict) {
   Client("1", "Name");
   Recordset rs("SELECT * FROM CLIENTS", connexio, Bloqueig::Optimista);
