@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "bench/Base_Nua.h"
+#include "bench/Fila_Nua.h"
 #include "bench/Mesura.h"
 #include "core/pantalla/Graella.h"
 #include "sales/M_Consultes.h"
@@ -23,15 +24,6 @@ void Sembrar(Base_Nua& base) {
       "'B' || (i % 120), 'Serralleria Puig i Fills número ' || (i % 120), CASE WHEN i % 7 = 0 THEN 'Portar al matí' "
       "END, i * 1.21, -(i % 2) FROM n");
 }
-
-struct Fila_Nua {
-  std::int64_t numero;
-  std::string data;
-  std::string client;
-  std::string observacions;
-  double import;
-  int estat;
-};
 
 std::vector<Fila_Nua> Llegir_Nua(Sentencia_Nua& sentencia) {
   std::vector<Fila_Nua> files;

@@ -1,6 +1,7 @@
 // The same figures on a server over loopback: a line saved, against the same rows read and written by libpq one
 // statement after the other; how many trips to the server it takes; 100,000 heads opened.
 #include "bench/Base_Nua_PG.h"
+#include "bench/Fila_Nua.h"
 #include "bench/Mesura.h"
 #include "bench/Nota_Oberta.h"
 #include "core/dades/Motor.h"
@@ -180,18 +181,10 @@ std::vector<Figura> Mesurar_Linies() {
            c / q, 3.0}};
 }
 
-struct Fila_Nua {
-  std::int64_t numero;
-  std::string data;
-  std::string client;
-  std::string observacions;
-  double import;
-  int estat;
-};
-
 std::vector<Fila_Nua> Llegir_Nua(Sentencia_Nua_PG& sentencia) {
   std::vector<Fila_Nua> files;
   sentencia.Amb({"b00000000"});
+  files.reserve(static_cast<std::size_t>(sentencia.Files()));
   for (int i = 0; i < sentencia.Files(); ++i) {
     files.push_back({std::stoll(sentencia.Text(0, i)), sentencia.Text(1, i), sentencia.Text(2, i), sentencia.Text(3, i),
                      std::stod(sentencia.Text(4, i)), std::stoi(sentencia.Text(5, i))});

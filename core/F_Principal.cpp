@@ -28,13 +28,7 @@ void Canviar_Usuari() {
 
 void Canviar_Empresa() {
   Descarregar_Tots();
-  const std::string triada = sessio.pantalla->Triar_Empresa(sessio.Empresa_Actual, sessio.Idioma_Actual);
-  if (triada.empty()) {
-    sessio.pantalla->Caixa(
-        Missatge("Has de seleccionar una Empresa!", "¡Debe seleccionar una Empresa!", "You must select a Company!"),
-        estil::critic);
-  }
-  Empresa_Fixar(triada);
+  Demanar_Empresa();
 }
 
 void Tancar_Del_Davant() {

@@ -56,6 +56,16 @@ void Empresa_Fixar(const std::string& empresa) {
   sessio.pantalla->Menu_Text("M_Sel_Empresa", Titol_Menu_Empresa());
 }
 
+void Demanar_Empresa() {
+  const std::string triada = sessio.pantalla->Triar_Empresa(sessio.Empresa_Actual, sessio.Idioma_Actual);
+  if (triada.empty()) {
+    sessio.pantalla->Caixa(
+        Missatge("Has de seleccionar una Empresa!", "¡Debe seleccionar una Empresa!", "You must select a Company!"),
+        estil::critic);
+  }
+  Empresa_Fixar(triada);
+}
+
 std::string Titol_Menu_Empresa() {
   const std::string paraula = Missatge("Empresa: ", "Empresa: ", "Company: ");
   return paraula.empty() ? paraula : paraula + sessio.Nom_Empresa;

@@ -17,6 +17,8 @@ std::string Nom_De_Empresa(const std::string& empresa);  // "-" when missing
 bool Empresa_Existeix(const std::string& empresa);
 // Makes a company current (the empty text too) and remembers it on the user's row.
 void Empresa_Fixar(const std::string& empresa);
+// The chooser, and its company made current; a box says so when none was chosen.
+void Demanar_Empresa();
 
 // Caption of the menu's company entry: the word for company in the session's language, and the name.
 std::string Titol_Menu_Empresa();

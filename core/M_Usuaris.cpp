@@ -65,13 +65,7 @@ void Obrir_Empresa(const std::string& empresa) {
     sessio.Nom_Empresa = Nom_De_Empresa(empresa);
     return;
   }
-  const std::string triada = sessio.pantalla->Triar_Empresa(sessio.Empresa_Actual, sessio.Idioma_Actual);
-  if (triada.empty()) {
-    sessio.pantalla->Caixa(
-        Missatge("Has de seleccionar una Empresa!", "¡Debe seleccionar una Empresa!", "You must select a Company!"),
-        estil::critic);
-  }
-  Empresa_Fixar(triada);
+  Demanar_Empresa();
 }
 
 bool Parametre_Es(const char* nom, const char* valor) {
@@ -160,7 +154,7 @@ std::string Proxim_Codi(const std::string& taula) {
 // ---- The users themselves ---------------------------------------------------------------------------------------
 
 std::string Nou_Usuari() {
-  const std::string codi = Proxim_Codi("USUARIS");
+  std::string codi = Proxim_Codi("USUARIS");
   Recordset rs(SQL_Usuari(codi), sessio.Connexio_Comuna, Bloqueig::Optimista);
   rs.AddNew();
   rs.Set("CODI_USU", codi);
