@@ -1,14 +1,19 @@
 #include "core/M_Empresa.h"
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/M_Mestres.h"
+#include "core/M_Usuaris.h"
 
 namespace {
 
-// One column of a company's row; null when there is no such row.
+constexpr Lloc clau = {"EMPRESES", "NIF_EMP"};
+constexpr Lloc us[] = {{"ALBALMCAP", "EMPRESA_AAC"}, {"ALBARACAP", "EMPRESA_AC"},     {"ALBCOMPRACAP", "EMPRESA_ACC"},
+                       {"COMANDACAP", "EMPRESA_CC"}, {"FACTURACAP", "EMPRESA_FC"},    {"MOVIMIENTOS", "EMPRESA_MOV"},
+                       {"PAGAMENTS", "EMPRESA_PAG"}, {"PRESSUPOSTCAP", "EMPRESA_PC"}, {"REBUTS", "EMPRESA_RE"},
+                       {"STOCK", "EMPRESA_ST"}};
+
 Valor Camp_Empresa(const char* camp, const std::string& empresa) {
-  const Recordset rs(std::string("SELECT ") + camp + " FROM EMPRESES WHERE NIF_EMP = " + Text_SQL(empresa),
-                     sessio.Connexio_Comuna);
-  return rs.RecordCount() > 0 ? rs[camp] : Valor();
+  return Camp_De(clau, empresa, camp);
 }
 
 }  // namespace
@@ -77,4 +82,45 @@ std::vector<Empresa_Activa> Empreses_Actives() {
                sessio.Connexio_Comuna);
   for (; !rs.Eof(); rs.MoveNext()) actives.push_back({rs["NIF_EMP"].Text(), rs["RAO_SOCIAL_EMP"].Text()});
   return actives;
+}
+
+// ---- The companies themselves -----------------------------------------------------------------------------------
+
+std::string Nova_Empresa() {
+  std::string codi = Proxim_Codi("EMPRESES");
+  Crear_Fila("EMPRESES", {{"NIF_EMP", codi},
+                          {"RAO_SOCIAL_EMP", "Empresa " + codi},
+                          {"IVA_EMP", true},
+                          {"RE_EMP", false},
+                          {"ACTIU_EMP", true}});
+  return codi;
+}
+
+void Esborrar_Empresa(const std::string& empresa, const std::string& rao_social) {
+  if (!Confirmar(
+          {"Segur d'esborrar l'empresa ", "¿Seguro de eliminar la empresa ", "Are you sure to delete the company "},
+          rao_social))
+    return;
+  if (Empresa_En_Us(empresa)) {
+    sessio.pantalla->Caixa(Missatge("Aquesta empresa no es pot esborrar perquè té registres.",
+                                    "Esta empresa no se puede eliminar porque tiene registros.",
+                                    "Unable to delete this company because it owns some rows."),
+                           estil::simple);
+    return;
+  }
+  sessio.Connexio_Comuna.Execute("DELETE * FROM EMPRESES WHERE NIF_EMP = " + Text_SQL(empresa));
+}
+
+bool Empresa_En_Us(const std::string& empresa) {
+  return Es_En_Us(us, empresa);
+}
+
+std::string SQL_Empreses() {
+  return "SELECT NIF_EMP, RAO_SOCIAL_EMP, LOCALITAT_EMP, TELEFON_EMP, FAX_EMP, EMAIL_EMP, ACTIU_EMP FROM EMPRESES "
+         "ORDER BY "
+         "RAO_SOCIAL_EMP";
+}
+
+std::string SQL_Empresa(const std::string& empresa) {
+  return "SELECT * FROM EMPRESES WHERE NIF_EMP = " + Text_SQL(empresa);
 }

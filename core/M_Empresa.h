@@ -17,6 +17,15 @@ std::string Nom_De_Empresa(const std::string& empresa);  // "-" when missing
 bool Empresa_Existeix(const std::string& empresa);
 // Makes a company current (the empty text too) and remembers it on the user's row.
 void Empresa_Fixar(const std::string& empresa);
+// Creates a company that charges VAT and no surcharge; returns its code. Writes EMPRESES.
+std::string Nova_Empresa();
+// Asks and deletes it; a company that has rows is not deleted, and a box says so.
+void Esborrar_Empresa(const std::string& empresa, const std::string& rao_social);
+bool Empresa_En_Us(const std::string& empresa);
+// Statements of the list and of the editor.
+std::string SQL_Empreses();
+std::string SQL_Empresa(const std::string& empresa);
+
 // The chooser, and its company made current; a box says so when none was chosen.
 void Demanar_Empresa();
 

@@ -6,6 +6,7 @@
 #include "core/M_Empresa.h"
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Idiomes.h"
+#include "core/M_Mestres.h"
 
 namespace {
 
@@ -155,22 +156,20 @@ std::string Proxim_Codi(const std::string& taula) {
 
 std::string Nou_Usuari() {
   std::string codi = Proxim_Codi("USUARIS");
-  Recordset rs(SQL_Usuari(codi), sessio.Connexio_Comuna, Bloqueig::Optimista);
-  rs.AddNew();
-  rs.Set("CODI_USU", codi);
-  rs.Set("DESCRIPCIO_USU", "Usuari" + codi);
-  rs.Set("CLAU_USU", "");
-  rs.Set("ACTIU_USU", "S");
-  rs.Set("IDIOMA_USU", sessio.Idioma_Actual);
-  for (const Dret& dret : drets) rs.Set(dret.columna, "X");
-  rs.Update();
+  std::vector<std::pair<std::string_view, Valor>> valors = {{"CODI_USU", codi},
+                                                            {"DESCRIPCIO_USU", "Usuari" + codi},
+                                                            {"CLAU_USU", ""},
+                                                            {"ACTIU_USU", "S"},
+                                                            {"IDIOMA_USU", sessio.Idioma_Actual}};
+  for (const Dret& dret : drets) valors.emplace_back(dret.columna, "X");
+  Crear_Fila("USUARIS", valors);
   return codi;
 }
 
 void Esborrar_Usuari(const std::string& codi, const std::string& descripcio) {
-  const std::string pregunta =
-      Missatge("Segur d'esborrar l'usuari ", "¿Seguro de eliminar el usuario ", "Are you sure to delete user ");
-  if (sessio.pantalla->Caixa(pregunta + descripcio + " ?", estil::ok_cancel) != Resposta::Ok) return;
+  if (!Confirmar({"Segur d'esborrar l'usuari ", "¿Seguro de eliminar el usuario ", "Are you sure to delete user "},
+                 descripcio))
+    return;
   if (codi == "ADMIN" || codi == sessio.Usuari_Actual) {
     sessio.pantalla->Caixa(Missatge("No es pot esborrar ni l'Administrador ni l'usuari Actual.",
                                     "No se pueden eliminar ni Administrador ni el usuario actual.",

@@ -1,12 +1,41 @@
-// Customers as documents need them. Reads CLIENTS.
+// Customers, shared by all companies. Reads CLIENTS, CLIENTS_DADES, VENCIMENTS and the heads of documents; writes
+// CLIENTS, CLIENTS_DADES.
 #pragma once
 
 #include <array>
 #include <string>
 
+#include "core/Sessio.h"
+
 bool Client_Te_IVA(const std::string& nif);
 bool Client_Te_RE(const std::string& nif);
 // NIF_CLI, RAO_SOCIAL_CLI, NOM_COMERCIAL_CLI, ADREÇA_CLI, CP_CLI, LOCALITAT_CLI, CODI_CLIENT_CLI; empty when missing.
 std::array<std::string, 7> Dades_Client(const std::string& nif);
-// Statement of the customers' combo of a document.
+std::string Compte_Client(const std::string& nif);
+std::string Email_Client(const std::string& nif);
+bool Client_Existeix(const std::string& nif);
+bool Client_En_Us(const std::string& nif);
+
+// Creates a customer and its row of additional data; returns its code. Raises 80004005 when another terminal took the
+// code at the same moment.
+std::string Nou_Client();
+void Esborrar_Client(const std::string& nif, const std::string& rao_social);  // asks; nothing when in use
+void Avisar_Client_Existent();                                                // the box of a tax code that is taken
+
+// Due dates of `import` euros from `data` by the customer's terms: nothing, the description of the terms, and the text
+// "25/04/2011 100 ; ". Halves go to the even digit.
+std::array<std::string, 3> Venciments_Factura(const std::string& nif, const Data_Hora& data, double import);
+
+// A birthday between today and so many days from now, in this year; never with less than one day.
+bool Hi_Ha_Aniversaris(int dies);
+// The e-mail addresses of a list's customers, in the order of their codes, joined by semicolons.
+std::string Emails_Clients(Recordset& clients);
+
+// Statements: the lists, by a part of the name (empty: all); the editor; its additional data; its sales, of all
+// companies; the combo of a document.
+std::string SQL_Clients(const std::string& text);
+std::string SQL_Aniversaris(const std::string& text);
+std::string SQL_Client(const std::string& nif);
+std::string SQL_Client_Dades(const std::string& nif);
+std::string SQL_Vendes_Client(const std::string& nif);
 std::string SQL_Combo_Clients();

@@ -1,9 +1,14 @@
 #include "masters/M_IVAs.h"
 
-#include "core/Sessio.h"
+#include "core/M_Mestres.h"
 #include "core/dades/Numeros.h"
 
 namespace {
+
+constexpr Lloc clau = {"IVAS", "CODI_IVA"};
+constexpr Lloc us[] = {{"ALBARAPEU", "TIPUS_IVA_AP"},  {"ALBCOMPRAPEU", "TIPUS_IVA_ACP"},
+                       {"ARTICLES", "IVA_ART"},        {"COMANDAPEU", "TIPUS_IVA_CP"},
+                       {"FACTURAPEU", "TIPUS_IVA_FP"}, {"PRESSUPOSTPEU", "TIPUS_IVA_PP"}};
 
 std::string Sentencia(const std::string& condicio) {
   return "SELECT * FROM IVAS WHERE " + condicio;
@@ -41,4 +46,18 @@ Tipus_IVA Dades_IVA_Percentatge(double percentatge) {
 std::string Codi_IVA_Percentatge(double percentatge) {
   const Recordset rs("SELECT CODI_IVA FROM IVAS WHERE " + Condicio_Percentatge(percentatge), sessio.Connexio_Comuna);
   return rs.RecordCount() > 0 ? rs["CODI_IVA"].Text() : std::string();
+}
+
+void Esborrar_Iva(const std::string& codi) {
+  Esborrar_Mestre(
+      {"Segur d'esborrar el tipus d'IVA ", "¿Seguro de eliminar el tipo de IVA ", "Are you sure to delete VAT type "},
+      codi, clau, codi, us);
+}
+
+std::string Descripcio_Iva(const std::string& codi) {
+  return Camp_De(clau, codi, "DESC_IVA").Text();
+}
+
+bool Iva_En_Us(const std::string& codi) {
+  return Es_En_Us(us, codi);
 }

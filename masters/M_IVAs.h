@@ -1,4 +1,4 @@
-// VAT types. Reads IVAS at every call.
+// VAT types. Reads IVAS at every call; a deletion reads ARTICLES and the feet of documents and writes IVAS.
 #pragma once
 
 #include <string>
@@ -17,3 +17,7 @@ void Demanar_IVA(const std::string& codi);  // Dades_IVA will be wanted soon (Co
 // The percentage goes into the statement as its plain text, with a comma: 7,5 is no statement and raises that error.
 Tipus_IVA Dades_IVA_Percentatge(double percentatge);
 std::string Codi_IVA_Percentatge(double percentatge);  // first by key; empty when none
+
+void Esborrar_Iva(const std::string& codi);  // asks; nothing when an article or the foot of any document names it
+std::string Descripcio_Iva(const std::string& codi);  // empty when there is none
+bool Iva_En_Us(const std::string& codi);

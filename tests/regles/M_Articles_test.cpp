@@ -35,3 +35,76 @@ TEST_F(M_Articles, the_warehouse_is_the_articles_own) {
   EXPECT_EQ(Magatzem_Article("A1"), "2");
   EXPECT_EQ(Magatzem_Article("ZZ"), "");
 }
+
+// ---- Prices
+
+TEST(Recalcular_Preus, price_and_discount_follow_the_cost_and_the_margin) {
+  EXPECT_EQ(Recalcular_Preus("MARGE_ART", {.cost = 100, .marge = 20}), (Preus{100, 20, 120, 16.66667}));
+}
+TEST(Recalcular_Preus, cost_and_margin_follow_the_discount) {
+  EXPECT_EQ(Recalcular_Preus("DESCOMPTE_ART", {.pvp = 120, .descompte = 10}), (Preus{108, 11.11111, 120, 10}));
+}
+TEST(Recalcular_Preus, a_first_price_gives_margin_and_discount) {
+  EXPECT_EQ(Recalcular_Preus("PVP_NET_ART", {.cost = 100, .pvp = 125}), (Preus{100, 25, 125, 20}));
+}
+TEST(Recalcular_Preus, afterwards_the_cost_gives_way_to_a_price) {
+  EXPECT_EQ(Recalcular_Preus("PVP_NET_ART", {100, 20, 150, 16.66667}), (Preus{125, 20, 150, 16.66667}));
+  EXPECT_EQ(Recalcular_Preus("PVP_NET_ART", {100, 20, 150, 0}), (Preus{150, 0, 150, 0}));
+}
+TEST(Recalcular_Preus, nothing_is_divided_by_a_price_or_a_cost_of_0) {
+  EXPECT_EQ(Recalcular_Preus("MARGE_ART", {.marge = 20, .descompte = 5}), (Preus{0, 20, 0, 5}));
+  EXPECT_EQ(Recalcular_Preus("DESCOMPTE_ART", {.marge = 7, .pvp = 10, .descompte = 100}), (Preus{0, 7, 10, 100}));
+  EXPECT_EQ(Recalcular_Preus("PVP_NET_ART", {.cost = 10, .pvp = 0}), (Preus{10, -100, 0, 0}));
+}
+TEST(Recalcular_Preus, any_other_column_changes_nothing) {
+  EXPECT_EQ(Recalcular_Preus("ULTIM_COST_ART", {1, 2, 3, 4}), (Preus{1, 2, 3, 4}));
+}
+
+// ---- Lists
+
+class Llista_Articles : public Base_Dades {
+ protected:
+  Llista_Articles() {
+    Executar("INSERT INTO FAMILIES (CODI_FAM, DESCRIPCIO_FAM) VALUES ('F', 'Ferros')");
+    Executar(
+        "INSERT INTO ARTICLES (CODI_ART, DESCRIPCIO_ART, FAMILIA_ART, IVA_ART, COST_ART, ULTIM_COST_ART, ACTIU_ART) "
+        "VALUES ('A1', 'Clau', 'F', 'GN', 1, 1, -1)");
+    Executar(
+        "INSERT INTO ARTICLES (CODI_ART, DESCRIPCIO_ART, SUBFAMILIA_ART, MARCA_ART, IVA_ART, COST_ART, ULTIM_COST_ART, "
+        "ACTIU_ART) VALUES ('A2', 'Clavilla', 'S', 'M', '?', 1, 2, 0)");
+    Executar("INSERT INTO ARTICLES (CODI_ART) VALUES ('B3')");
+  }
+  static std::string Codis(const Criteris_Articles& criteris) {
+    std::string codis;
+    for (Recordset rs(SQL_Articles(criteris), sessio.Connexio_Comuna); !rs.Eof(); rs.MoveNext())
+      codis += rs["CODI_ART"].Text() + " ";
+    return codis;
+  }
+};
+
+TEST_F(Llista_Articles, shows_them_all_with_the_words_of_their_codes_also_of_codes_that_are_gone) {
+  const Recordset rs(SQL_Articles({}), sessio.Connexio_Comuna);
+  ASSERT_EQ(rs.RecordCount(), 3);
+  EXPECT_EQ(rs["DESCRIPCIO_FAM"].Text(), "Ferros");
+  EXPECT_EQ(rs["PORC_IVA"].Doble(), 21);
+}
+TEST_F(Llista_Articles, takes_each_criterion_and_all_of_them_together) {
+  EXPECT_EQ(Codis({.familia = "f"}), "A1 ");
+  EXPECT_EQ(Codis({.subfamilia = "S"}), "A2 ");
+  EXPECT_EQ(Codis({.marca = "M"}), "A2 ");
+  EXPECT_EQ(Codis({.codi = "a"}), "A1 A2 ");
+  EXPECT_EQ(Codis({.descripcio = "CLA"}), "A1 A2 ");
+  EXPECT_EQ(Codis({.actiu = "-1"}), "A1 ");
+  EXPECT_EQ(Codis({.ultim_cost = true}), "A2 ");
+  EXPECT_EQ(Codis({.familia = "F", .codi = "2"}), "");
+}
+TEST_F(Llista_Articles, opens_empty_with_what_no_article_holds) {
+  EXPECT_EQ(Codis({.codi = cap_article, .descripcio = cap_article}), "");
+  EXPECT_EQ(Codis({.familia = cap_article}), "A1 A2 B3 ");
+}
+TEST_F(Llista_Articles, one_value_of_an_article) {
+  EXPECT_EQ(Ultim_Cost("A2"), 2);
+  EXPECT_EQ(Ultim_Cost("?"), 0);
+  EXPECT_TRUE(Article_Existeix("a1"));
+  EXPECT_FALSE(Article_Existeix("A"));
+}

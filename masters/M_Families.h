@@ -1,0 +1,8 @@
+// Families of articles. Reads FAMILIES, ARTICLES; writes FAMILIES.
+#pragma once
+
+#include <string>
+
+void Esborrar_Familia(const std::string& codi);           // asks; nothing when an article is of it
+std::string Descripcio_Familia(const std::string& codi);  // empty when there is none
+bool Familia_En_Us(const std::string& codi);

@@ -1,0 +1,8 @@
+// Subfamilies of articles, beside the families and under none of them. Reads SUBFAMILIES, ARTICLES; writes SUBFAMILIES.
+#pragma once
+
+#include <string>
+
+void Esborrar_Subfamilia(const std::string& codi);           // asks; nothing when an article is of it
+std::string Descripcio_Subfamilia(const std::string& codi);  // empty when there is none
+bool Subfamilia_En_Us(const std::string& codi);
