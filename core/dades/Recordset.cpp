@@ -405,15 +405,19 @@ void Recordset::AddNew() {
   d_->edicio = Edicio::Alta;
 }
 
+void Recordset::Edit() {
+  d_->Exigir_Editable();
+  if (d_->edicio != Edicio::Cap) return;
+  d_->Fila_Actual();
+  d_->Retenir();
+  d_->edicio = Edicio::Canvi;
+}
+
 void Recordset::Set(std::string_view nom, const Valor& valor) {
   d_->Exigir_Editable();
   const int camp = Index_Camp(nom);
   Valor convertit = Convertir_A_Columna(valor, d_->Columna_De(d_->Camps()[static_cast<std::size_t>(camp)]).tipus);
-  if (d_->edicio == Edicio::Cap) {
-    d_->Fila_Actual();
-    d_->Retenir();
-    d_->edicio = Edicio::Canvi;
-  }
+  Edit();
   std::erase_if(d_->canvis, [camp](const Canvi& canvi) { return canvi.camp == camp; });
   d_->canvis.push_back({camp, std::move(convertit)});
 }
@@ -444,6 +448,10 @@ void Recordset::Delete() {
 
 Edicio Recordset::EditMode() const {
   return d_->edicio;
+}
+
+bool Recordset::Te_Canvis() const {
+  return !d_->canvis.empty();
 }
 
 void Connexio::Demanar(std::string_view font, Bloqueig bloqueig) {

@@ -1,11 +1,11 @@
 // A set of rows held at the client, over a statement of the system's dialect or the name of a table.
 //
 // Reading: Open, RecordCount, MoveFirst..., rs["COLUMN"] (any case, accents and cedilla included).
-// Editing: AddNew or a current row, Set, Update; CancelUpdate gives the pending edit up. An update names the key and
-// the original values of the columns that it writes: a row that changed meanwhile raises 0x80040E38.
-// A set can be written when it shows one table whole rows of which are known (hidden keys are added by the layer), or
-// when Unique_Table says which of the joined tables is the one to write.
-// Opening enters the set in the registry of open recordsets, closing (by the destructor too) takes it out.
+// Editing: AddNew or a current row (Edit, or the first Set), Set, Update; CancelUpdate gives the pending edit up. An
+// update names the key and the original values of the columns that it writes: a row that changed meanwhile raises
+// 0x80040E38. A set can be written when it shows one table whole rows of which are known (hidden keys are added by the
+// layer), or when Unique_Table says which of the joined tables is the one to write. Opening enters the set in the
+// registry of open recordsets, closing (by the destructor too) takes it out.
 #pragma once
 
 #include <cstdint>
@@ -65,11 +65,13 @@ class Recordset {
   const std::string& Filter() const;
 
   void AddNew();
+  void Edit();                                         // of the current row, which a pessimistic set holds from now on
   void Set(std::string_view nom, const Valor& valor);  // starts an edit of the current row when none is pending
   void Update();
   void CancelUpdate();
   void Delete();
   Edicio EditMode() const;
+  bool Te_Canvis() const;  // the pending edit would write something
 
  private:
   struct Interior;

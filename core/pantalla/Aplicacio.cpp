@@ -16,6 +16,7 @@
 #include "core/pantalla/Formulari.h"
 #include "core/pantalla/Instancia_Unica.h"
 #include "core/pantalla/Pantalla_Qt.h"
+#include "masters/F_Referencies.h"
 #include "sales/F_Vendes.h"
 
 namespace {
@@ -53,6 +54,7 @@ void Registrar_Formularis() {
   Registrar_Formulari(QStringLiteral("F_HELP"), [] { return new F_Help; });
   Registrar_Formulari(QStringLiteral("F_USUARISM"), [] { return new F_UsuarisM; });
   Registrar_Formulari(QStringLiteral("F_USUARI"), [] { return new F_Usuari; });
+  Registrar_Formularis_Referencia();
   Registrar_Formularis_Venda();
 }
 

@@ -1,9 +1,13 @@
 #include "core/pantalla/Graella.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QTimer>
 
+#include "core/pantalla/Camps.h"
 #include "core/pantalla/Control_Interface.h"
+#include "core/pantalla/Delegat_Graella.h"
 #include "core/pantalla/Formulari.h"
 #include "core/pantalla/Memoria_Pantalles.h"
 #include "core/pantalla/Model_Recordset.h"
@@ -28,6 +32,9 @@ Graella::Graella(QWidget* pare) : QTableView(pare), model_(new Model_Recordset(t
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
   setEditTriggers(NoEditTriggers);
+  setItemDelegate(new Delegat_Graella(*model_, this));
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](const QWidget* /*abans*/, const QWidget* ara) { Deixar_Graella(ara); });
   setWordWrap(false);
   setShowGrid(false);
   setTabKeyNavigation(false);
@@ -51,9 +58,16 @@ void Graella::Columnes(const std::vector<Columna_Graella>& columnes) {
   int columna = 0;
   for (const auto& que : columnes) {
     setColumnHidden(columna, que.amplada == 0);
-    if (que.amplada > 0) setColumnWidth(columna, que.amplada / twips_per_pixel);
+    if (que.amplada > 0) setColumnWidth(columna, Amplada_Propia(columna));
     ++columna;
   }
+}
+
+// What the column asks for, or what its title does.
+int Graella::Amplada_Propia(int columna) const {
+  constexpr int voltant = 12;
+  const int titol = fontMetrics().horizontalAdvance(model_->Titol(columna)) + voltant;
+  return std::max(model_->Columnes()[static_cast<std::size_t>(columna)].amplada / twips_per_pixel, titol);
 }
 
 void Graella::Lligar(Recordset* rs) {
@@ -73,10 +87,10 @@ void Graella::Estil_De_Fila(std::function<QString(std::int64_t fila)> estil) {
 }
 
 std::int64_t Graella::Files() const {
-  return model_->rowCount();
+  return model_->Files();
 }
 std::int64_t Graella::Fila_Actual() const {
-  return currentIndex().isValid() ? currentIndex().row() : -1;
+  return currentIndex().isValid() && currentIndex().row() < Files() ? currentIndex().row() : -1;
 }
 
 void Graella::Anar_A_Fila(std::int64_t fila) {
@@ -89,12 +103,7 @@ void Graella::Anar_A_Fila(std::int64_t fila) {
 }
 
 int Graella::Columna_De_Camp(const QString& camp) const {
-  int columna = 0;
-  for (const auto& que : model_->Columnes()) {
-    if (camp.compare(QString::fromUtf8(que.camp), Qt::CaseInsensitive) == 0) return columna;
-    ++columna;
-  }
-  return -1;
+  return model_->Columna_De(camp);
 }
 
 QString Graella::Text_Cella(std::int64_t fila, const QString& camp) const {
@@ -111,27 +120,31 @@ Valor Graella::Valor_Actual(const char* camp) const {
   return Fila_Actual() < 0 || rs == nullptr ? Valor() : rs->Valor_De_Fila(Fila_Actual(), rs->Index_Camp(camp));
 }
 
+// A column of its own width stays so under another title.
 void Graella::Titol_Columna(int index, const QString& titol) {
+  const bool visible = index >= 0 && index < model_->columnCount() && !isColumnHidden(index);
+  const bool propia = visible && columnWidth(index) == Amplada_Propia(index);
   model_->Titol(index, titol);
+  if (propia) setColumnWidth(index, Amplada_Propia(index));
 }
 QString Graella::Titol_Columna(int index) const {
   return model_->Titol(index);
 }
 
-void Graella::Permetre_Canvis(bool permes) {
-  setEditTriggers(permes ? DoubleClicked | EditKeyPressed | AnyKeyPressed : EditTriggers(NoEditTriggers));
-}
-
 void Graella::Ordenar_Per(const QString& camp) {
   Recordset* rs = model_->Lligat();
-  if (rs == nullptr || !rs->State()) return;
+  if (rs == nullptr || !rs->State() || !Desar_Fila()) return;
   rs->Reopen(Sense_Ordre(rs->Source()) + " ORDER BY " + camp.toStdString());
   Lligar(rs);
 }
 
+// ---- Where the user is ------------------------------------------------------------------------------------------
+
 // The recordset stands where the user does, unless a row of it is in edit.
 void Graella::currentChanged(const QModelIndex& actual, const QModelIndex& anterior) {
   QTableView::currentChanged(actual, anterior);
+  const int fila = model_->Fila_En_Edicio();
+  if (fila >= 0 && actual.isValid() && actual.row() != fila) return Deixar_Fila(fila);
   Recordset* rs = model_->Lligat();
   if (rs == nullptr || !rs->State() || !actual.isValid() || rs->EditMode() != Edicio::Cap) return;
   if (actual.row() < rs->RecordCount()) rs->AbsolutePosition(actual.row() + 1);
@@ -139,11 +152,92 @@ void Graella::currentChanged(const QModelIndex& actual, const QModelIndex& anter
 
 void Graella::keyPressEvent(QKeyEvent* event) {
   const bool entra = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (event->key() == Qt::Key_Escape && En_Edicio()) return Descartar_Fila();
+  if (entra && model_->Permet_Canvis()) return Avancar();
   if (entra && Fila_Actual() >= 0) {
     Q_EMIT Doble_Clic(Fila_Actual());
     return;
   }
   QTableView::keyPressEvent(event);
+}
+
+// The next cell; after the last one of a row, the first one of the next row.
+void Graella::Avancar() {
+  QModelIndex seguent = currentIndex();
+  do {
+    seguent = seguent.siblingAtColumn(seguent.column() + 1);
+  } while (seguent.isValid() && isColumnHidden(seguent.column()));
+  if (seguent.isValid()) return setCurrentIndex(seguent);
+  const int fila = currentIndex().row();
+  if (!Desar_Fila()) return;
+  if (fila + 1 < model_->rowCount()) setCurrentIndex(model_->index(fila + 1, 0));
+}
+
+// ---- Rows in edit -----------------------------------------------------------------------------------------------
+
+void Graella::Permetre_Canvis(bool permes) {
+  if (permes == model_->Permet_Canvis()) return;
+  setEditTriggers(permes ? DoubleClicked | EditKeyPressed | AnyKeyPressed : EditTriggers(NoEditTriggers));
+  model_->Permetre_Canvis(permes);
+  Refrescar();
+}
+
+void Graella::Desplegable(const QString& camp, const std::vector<Opcio_Graella>& opcions) {
+  model_->Desplegable(model_->Columna_De(camp), opcions);
+}
+
+bool Graella::En_Edicio() const {
+  return model_->Fila_En_Edicio() >= 0;
+}
+
+bool Graella::Desar_Fila() {
+  if (!En_Edicio()) return true;
+  Formulari::Guardar_Event([this] { model_->Desar_Fila(); });
+  return !En_Edicio();
+}
+
+void Graella::Descartar_Fila() {
+  model_->Descartar_Fila();
+}
+
+// A row that another terminal holds is not opened.
+bool Graella::edit(const QModelIndex& index, EditTrigger motiu, QEvent* event) {
+  const bool sencer = motiu != NoEditTriggers && (motiu == AllEditTriggers || (editTriggers() & motiu) != 0);
+  if (sencer && index.isValid() && model_->Permet_Canvis() && state() != EditingState) {
+    bool oberta = false;
+    Formulari::Guardar_Event([&] {
+      model_->Comencar(index.row());
+      oberta = true;
+    });
+    if (!oberta) return false;
+  }
+  return QTableView::edit(index, motiu, event);
+}
+
+void Graella::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint com) {
+  const bool entra = com == QAbstractItemDelegate::SubmitModelCache;
+  QTableView::closeEditor(editor, entra ? QAbstractItemDelegate::NoHint : com);
+  if (entra) Avancar();
+}
+
+// A row that is refused is where the user goes back to.
+void Graella::Deixar_Fila(int fila) {
+  const QModelIndex lloc = model_->index(fila, 0);
+  if (Desar_Fila()) return currentChanged(currentIndex(), lloc);
+  QTimer::singleShot(0, this, [this, fila] {
+    if (model_->Fila_En_Edicio() == fila) setCurrentIndex(model_->index(fila, std::max(0, currentIndex().column())));
+  });
+}
+
+// Leaving the grid for another control of its form leaves the row. The exit gives up what is refused.
+void Graella::Deixar_Graella(const QWidget* ara) {
+  if (!En_Edicio() || ara == nullptr || ara->window() != window() || ara == this || isAncestorOf(ara)) return;
+  const QWidget* formulari = parentWidget();
+  while (formulari != nullptr && qobject_cast<const Formulari*>(formulari) == nullptr)
+    formulari = formulari->parentWidget();
+  if (formulari == nullptr || !formulari->isAncestorOf(ara) || static_cast<const Formulari*>(formulari)->Es_Tanca())
+    return;
+  if (!Desar_Fila()) Retenir_Focus(this);
 }
 
 QString Graella::Nom_Formulari() const {
@@ -159,7 +253,7 @@ void Graella::Desar_Amplades() const {
     ++columna;
     if (que.amplada == 0) continue;
     Recordar_Amplada(Nom_Formulari(), objectName(), QString::fromUtf8(que.camp), columnWidth(columna),
-                     que.amplada / twips_per_pixel);
+                     Amplada_Propia(columna));
   }
 }
 

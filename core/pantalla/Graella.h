@@ -2,7 +2,7 @@
 //
 // Rows alternate two colours; a row may take a named style (OK, Yo, Actual, Baixa). A click on a header sorts by its
 // field, ascending, by reopening the recordset. Numbers are right-aligned under their mask. Only what is visible is
-// formatted, so that 100,000 rows scroll without a pause.
+// formatted, so that 100,000 rows scroll without a pause. Where a form allows it, rows are edited in place.
 #pragma once
 
 #include <QTableView>
@@ -18,6 +18,12 @@ struct Columna_Graella {
   bool a_la_dreta = false;
   const char* mascara = "";  // "#,##0.00", "0.00"; empty: as it is. Dates are DD/MM/YYYY
   bool casella = false;      // a boolean, shown as a tick
+};
+
+// What a combo column takes: a code, and the text that it shows.
+struct Opcio_Graella {
+  QString codi;
+  QString text;
 };
 
 class Model_Recordset;
@@ -45,8 +51,14 @@ class Graella : public QTableView {
   void Titol_Columna(int index, const QString& titol);
   QString Titol_Columna(int index) const;
 
-  // Rows may be changed and added in the grid, or only read.
+  // Rows may be changed and added in the grid, or only read. A row is written when it is left; one that is refused
+  // stays in edit with what was typed, and Esc gives it up. Enter goes to the next cell.
   void Permetre_Canvis(bool permes);
+  void Desplegable(const QString& camp, const std::vector<Opcio_Graella>& opcions);
+  bool En_Edicio() const;
+  // Writes the row in edit, under the guard of events. False when it was refused: it is still in edit.
+  bool Desar_Fila();
+  void Descartar_Fila();
 
   // Reopens the recordset on its statement cut at ORDER BY plus this field.
   void Ordenar_Per(const QString& camp);
@@ -61,8 +73,14 @@ class Graella : public QTableView {
  protected:
   void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool edit(const QModelIndex& index, EditTrigger motiu, QEvent* event) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint com) override;
 
  private:
   QString Nom_Formulari() const;
+  int Amplada_Propia(int columna) const;
+  void Deixar_Fila(int fila);
+  void Deixar_Graella(const QWidget* ara);
+  void Avancar();
   Model_Recordset* model_;
 };

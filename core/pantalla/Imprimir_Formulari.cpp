@@ -59,7 +59,7 @@ class Maquetador {
     Preparar(graella);
     if (y_ + 2 * Alcada_De_Fila() > Fons()) Nova_Pagina();
     Posar_Titols(graella);
-    for (int fila = 0; fila < graella.model()->rowCount(); ++fila) {
+    for (int fila = 0; fila < graella.Files(); ++fila) {
       if (y_ + Alcada_De_Fila() > Fons()) {
         Nova_Pagina();
         Posar_Titols(graella);

@@ -8,20 +8,18 @@
 #include "core/pantalla/Controls.h"
 #include "core/pantalla/Formulari.h"
 
-namespace {
-
-bool Es_De_Nombre(Tipus_Columna tipus) {
-  return tipus == Tipus_Columna::Llarg || tipus == Tipus_Columna::Curt || tipus == Tipus_Columna::Doble ||
-         tipus == Tipus_Columna::Autonumeric;
+Valor Llegir_Escrit(const QString& text, Tipus_Columna tipus, const QString& on) {
+  if (text.isEmpty()) return {};
+  if (tipus == Tipus_Columna::Codi || tipus == Tipus_Columna::Text) return text.toStdString();
+  const std::string net = text.trimmed().toStdString();
+  if (tipus == Tipus_Columna::Data || tipus == Tipus_Columna::Data_Hora) {
+    if (const auto dia = Data_De_Text(net)) return *dia;
+  } else if (const auto nombre = Numero_De_Text(net)) {
+    return tipus == Tipus_Columna::Doble ? Valor(*nombre) : Valor(Valor(*nombre).Enter());
+  }
+  constexpr int prou = 40;  // of a text that a box can show
+  Llancar_Error(errors::tipus, on.toStdString(), text.left(prou).toStdString());
 }
-
-Valor Nombre_Escrit(const QString& text, Tipus_Columna tipus, const QWidget& control) {
-  const auto nombre = Numero_De_Text(text.trimmed().toStdString());
-  if (!nombre) Llancar_Error(errors::tipus, control.objectName().toStdString(), text.left(40).toStdString());
-  return tipus == Tipus_Columna::Doble ? Valor(*nombre) : Valor(Valor(*nombre).Enter());
-}
-
-}  // namespace
 
 void Lligam::Mostrar(const Valor& valor) {
   const QString text = QString::fromStdString(valor.Text());
@@ -55,9 +53,7 @@ bool Lligam::Canviat() const {
 Valor Lligam::Escrit() const {
   if (const auto* casella = qobject_cast<QCheckBox*>(control_)) return casella->isChecked();
   if (const auto* data = qobject_cast<Selector_Data*>(control_)) return data->Data() ? Valor(*data->Data()) : Valor();
-  const QString text = Estat();
-  if (text.isEmpty()) return {};
-  return Es_De_Nombre(tipus_) ? Nombre_Escrit(text, tipus_, *control_) : Valor(text.toStdString());
+  return Llegir_Escrit(Estat(), tipus_, control_->objectName());
 }
 
 void Lligam::En_Canviar(const std::function<void()>& rutina) const {

@@ -12,6 +12,10 @@
 class Formulari;
 class QWidget;
 
+// What was typed, for a column of that type: an empty text is null. Raises 13 for a text where a number or a date has
+// to be; `on` names the place.
+Valor Llegir_Escrit(const QString& text, Tipus_Columna tipus, const QString& on);
+
 class Lligam {
  public:
   Lligam(QWidget* control, const Camp& camp) : control_(control), columna_(camp.nom), tipus_(camp.tipus) {}

@@ -16,10 +16,12 @@ void Llista::Muntar(Graella* graella, const std::vector<Columna_Graella>& column
 }
 
 void Llista::Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir) {
-  Dibuixar(nou, Dibuix::Nou);
+  if (nou != nullptr) {
+    Dibuixar(nou, Dibuix::Nou);
+    connect(nou, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Nou(); }); });
+  }
   Dibuixar(esborrar, Dibuix::Esborrar);
   Dibuixar(sortir, Dibuix::Sortir);
-  connect(nou, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Nou(); }); });
   connect(esborrar, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Esborrar_Fila(); }); });
   connect(sortir, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
 }
@@ -39,7 +41,7 @@ void Llista::Triar_Fila() {
 }
 
 void Llista::Carregar() {
-  rs_.Open(Sentencia(), sessio.Connexio_Comuna);
+  rs_.Open(Sentencia(), sessio.Connexio_Comuna, Mode());
   graella_->Lligar(&rs_);
   graella_->setFocus();
 }

@@ -21,6 +21,7 @@ class Llista : public Formulari {
 
  protected:
   virtual std::string Sentencia() const = 0;
+  virtual Bloqueig Mode() const { return Bloqueig::Lectura; }
   virtual void Obrir_Fila() {}  // double click or Enter on the current row
   virtual void Nou() {}
   virtual void Esborrar_Fila() {}
@@ -29,6 +30,7 @@ class Llista : public Formulari {
 
   // Tells the grid of the .ui file and its columns; before Carregar.
   void Muntar(Graella* graella, const std::vector<Columna_Graella>& columnes);
+  // A list without a button for new rows has none.
   void Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir);
   // The rows as they stand now, back on the row where the list was.
   void Requerir();

@@ -57,7 +57,10 @@ class Llista_De_Prova : public Llista {
 
 class Amb_Principal : public Base_Pantalles {
  protected:
-  Amb_Principal() { principal.show(); }
+  Amb_Principal() {
+    sessio.Connexio_Local.Execute("DELETE * FROM TEXTS");  // these forms have words of their own
+    principal.show();
+  }
   ~Amb_Principal() override {
     Descarregar_Tots();
     Assentar();

@@ -69,7 +69,7 @@ void Posar_A_L_Editor(QWidget& editor, const QString& text) {
 
 void Editar_Cella(Graella& graella, const QModelIndex& index, const QString& text) {
   graella.setCurrentIndex(index);
-  graella.edit(index);
+  static_cast<QTableView&>(graella).edit(index);
   Calmar();
   QWidget* editor = graella.indexWidget(index);
   if (editor == nullptr) editor = QApplication::focusWidget();

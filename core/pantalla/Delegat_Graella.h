@@ -1,0 +1,25 @@
+// How the cells of an editable grid are painted and typed in: check boxes in the middle of their column, combos of
+// codes, numbers whose period gives a comma.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class Model_Recordset;
+
+class Delegat_Graella : public QStyledItemDelegate {
+ public:
+  Delegat_Graella(const Model_Recordset& model, QObject* pare) : QStyledItemDelegate(pare), model_(model) {}
+
+  QWidget* createEditor(QWidget* pare, const QStyleOptionViewItem& opcio, const QModelIndex& index) const override;
+  void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+  void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+  void paint(QPainter* pintor, const QStyleOptionViewItem& opcio, const QModelIndex& index) const override;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* opcio, const QModelIndex& index) const override;
+  bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& opcio,
+                   const QModelIndex& index) override;
+
+ private:
+  const Model_Recordset& model_;
+};
