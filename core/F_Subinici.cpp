@@ -6,6 +6,7 @@
 #include "core/pantalla/Camps.h"
 #include "core/pantalla/Control_Interface.h"
 #include "core/pantalla/Teclat.h"
+#include "masters/M_Clients.h"
 #include "ui_F_Subinici.h"
 
 namespace {
@@ -17,6 +18,9 @@ void Obrir_Sessio() {
   Actualitzar_Menu_Sessio();
   Carregar_Drets(sessio.Usuari_Actual);
   Netejar_Locks_Equip();
+  if (!Toca_Avisar_Aniversaris()) return;
+  sessio.Crida_Document = "F_SUBINICI;ANIVERSARIS";
+  Obrir(QStringLiteral("F_CLIENTSM"));
 }
 
 }  // namespace

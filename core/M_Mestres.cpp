@@ -11,6 +11,17 @@ Valor Camp_De(const Lloc& clau, const std::string& codi, const char* camp) {
   return rs.RecordCount() > 0 ? rs[0] : Valor();
 }
 
+std::string Descripcio_De(const Referencia& referencia, const std::string& codi) {
+  return Camp_De(referencia.clau, codi, referencia.descripcio).Text();
+}
+
+std::string Codi_De(const Referencia& referencia, const std::string& descripcio) {
+  const Recordset rs(std::string("SELECT ") + referencia.clau.columna + " FROM " + referencia.clau.taula + " WHERE " +
+                         referencia.descripcio + " = " + Text_SQL(descripcio) + " ORDER BY " + referencia.clau.columna,
+                     sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 ? rs[0].Text() : std::string();
+}
+
 bool Es_En_Us(std::span<const Lloc> llocs, const std::string& codi) {
   return std::any_of(llocs.begin(), llocs.end(),
                      [&](const Lloc& lloc) { return Camp_De(lloc, codi, "COUNT(*) AS CUENTA").Enter() > 0; });

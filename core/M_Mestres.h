@@ -16,6 +16,15 @@ struct Lloc {
 // A column of the row of that code, or null. Reads `clau.taula`.
 Valor Camp_De(const Lloc& clau, const std::string& codi, const char* camp);
 
+// A table of codes and their descriptions.
+struct Referencia {
+  Lloc clau;
+  const char* descripcio;
+};
+std::string Descripcio_De(const Referencia& referencia, const std::string& codi);  // empty for a code without a row
+// The first code of that description, in any case; empty when there is none.
+std::string Codi_De(const Referencia& referencia, const std::string& descripcio);
+
 // A row of these tables names the code: they are asked in their order, up to the first that does. All companies count.
 bool Es_En_Us(std::span<const Lloc> llocs, const std::string& codi);
 

@@ -59,7 +59,11 @@ struct Sessio {
   bool Entrada_Bloquejada = false;  // the system's input is blocked
 
   std::int64_t Numero_Albara = 0;  // the note that F_Albara is to open
-  std::string Codi_Usuari;         // the user that F_Usuari is to open
+  std::string Codi_Usuari;         // the rows that the editors are to open: F_Usuari,
+  std::string Nif_Client;          // F_Client,
+  std::string Nif_Proveidor;       // F_Proveidor,
+  std::string Codi_Article;        // F_Article,
+  std::string Nif_Empresa;         // F_Empresa
 
   std::set<std::string, std::less<>> Bloquejos;  // codes of LOCKS whose form, on this terminal, holds a lock
 

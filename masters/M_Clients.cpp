@@ -170,6 +170,11 @@ void Esborrar_Client(const std::string& nif, const std::string& rao_social) {
       rao_social, clau, nif, us);
 }
 
+void Assegurar_Dades_Client(const std::string& nif) {
+  if (Recordset(SQL_Client_Dades(nif), sessio.Connexio_Comuna).RecordCount() > 0) return;
+  Crear_Fila("CLIENTS_DADES", {{"NIF_CLID", nif}, {"CLIENT_DESC_CLID", Camp_De(clau, nif, "RAO_SOCIAL_CLI")}});
+}
+
 void Avisar_Client_Existent() {
   sessio.pantalla->Caixa("Ja Existeix !!!", estil::critic, "Client");
 }
@@ -183,6 +188,13 @@ std::array<std::string, 3> Venciments_Factura(const std::string& nif, const Data
 
 bool Hi_Ha_Aniversaris(int dies) {
   return dies >= 1 && Recordset(Sentencia_Aniversaris(dies), sessio.Connexio_Comuna).RecordCount() > 0;
+}
+
+bool Toca_Avisar_Aniversaris() {
+  const auto parametre = sessio.Parametres.find("P_Avis_Aniversaris_Dies");
+  if (parametre == sessio.Parametres.end()) return false;
+  sessio.Dies_Avis_Aniversaris = static_cast<std::int16_t>(Valor(parametre->second).Enter());
+  return Hi_Ha_Aniversaris(sessio.Dies_Avis_Aniversaris);
 }
 
 // So many codes at a time as a statement can hold.

@@ -20,7 +20,9 @@ bool Client_En_Us(const std::string& nif);
 // code at the same moment.
 std::string Nou_Client();
 void Esborrar_Client(const std::string& nif, const std::string& rao_social);  // asks; nothing when in use
-void Avisar_Client_Existent();                                                // the box of a tax code that is taken
+// The customer's row of additional data, added when it is missing.
+void Assegurar_Dades_Client(const std::string& nif);
+void Avisar_Client_Existent();  // the box of a tax code that is taken
 
 // Due dates of `import` euros from `data` by the customer's terms: nothing, the description of the terms, and the text
 // "25/04/2011 100 ; ". Halves go to the even digit.
@@ -28,6 +30,8 @@ std::array<std::string, 3> Venciments_Factura(const std::string& nif, const Data
 
 // A birthday between today and so many days from now, in this year; never with less than one day.
 bool Hi_Ha_Aniversaris(int dies);
+// At a login: takes the days of the terminal's parameter, and tells whether to warn. Raises 13 when it is no number.
+bool Toca_Avisar_Aniversaris();
 // The e-mail addresses of a list's customers, in the order of their codes, joined by semicolons.
 std::string Emails_Clients(Recordset& clients);
 

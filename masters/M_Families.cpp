@@ -3,7 +3,7 @@
 #include "core/M_Mestres.h"
 
 namespace {
-constexpr Lloc clau = {"FAMILIES", "CODI_FAM"};
+constexpr Lloc clau = referencia_families.clau;
 constexpr Lloc us[] = {{"ARTICLES", "FAMILIA_ART"}};
 }  // namespace
 
@@ -14,7 +14,7 @@ void Esborrar_Familia(const std::string& codi) {
 }
 
 std::string Descripcio_Familia(const std::string& codi) {
-  return Camp_De(clau, codi, "DESCRIPCIO_FAM").Text();
+  return Descripcio_De(referencia_families, codi);
 }
 
 bool Familia_En_Us(const std::string& codi) {

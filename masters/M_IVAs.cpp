@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr Lloc clau = {"IVAS", "CODI_IVA"};
+constexpr Lloc clau = referencia_ivas.clau;
 constexpr Lloc us[] = {{"ALBARAPEU", "TIPUS_IVA_AP"},  {"ALBCOMPRAPEU", "TIPUS_IVA_ACP"},
                        {"ARTICLES", "IVA_ART"},        {"COMANDAPEU", "TIPUS_IVA_CP"},
                        {"FACTURAPEU", "TIPUS_IVA_FP"}, {"PRESSUPOSTPEU", "TIPUS_IVA_PP"}};
@@ -55,7 +55,7 @@ void Esborrar_Iva(const std::string& codi) {
 }
 
 std::string Descripcio_Iva(const std::string& codi) {
-  return Camp_De(clau, codi, "DESC_IVA").Text();
+  return Descripcio_De(referencia_ivas, codi);
 }
 
 bool Iva_En_Us(const std::string& codi) {

@@ -3,7 +3,10 @@
 
 #include <string>
 
+#include "core/M_Mestres.h"
 #include "core/dades/Valor.h"
+
+inline constexpr Referencia referencia_ivas = {{"IVAS", "CODI_IVA"}, "DESC_IVA"};
 
 struct Tipus_IVA {
   Valor codi;  // all four null when there is no such type

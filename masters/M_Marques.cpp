@@ -3,7 +3,7 @@
 #include "core/M_Mestres.h"
 
 namespace {
-constexpr Lloc clau = {"MARQUES", "CODI_MAR"};
+constexpr Lloc clau = referencia_marques.clau;
 constexpr Lloc us[] = {{"ARTICLES", "MARCA_ART"}};
 }  // namespace
 
@@ -13,7 +13,7 @@ void Esborrar_Marca(const std::string& codi) {
 }
 
 std::string Descripcio_Marca(const std::string& codi) {
-  return Camp_De(clau, codi, "DESCRIPCIO_MAR").Text();
+  return Descripcio_De(referencia_marques, codi);
 }
 
 bool Marca_En_Us(const std::string& codi) {

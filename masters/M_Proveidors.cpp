@@ -5,7 +5,7 @@
 #include "core/M_Usuaris.h"
 
 namespace {
-constexpr Lloc clau = {"PROVEIDORS", "NIF_PRO"};
+constexpr Lloc clau = referencia_proveidors.clau;
 constexpr Lloc us[] = {{"ALBCOMPRACAP", "PROVEIDOR_ACC"}, {"ARTICLES", "PROVEIDOR_ART"}};
 }  // namespace
 
@@ -25,7 +25,7 @@ std::string Nou_Proveidor() {
 }
 
 std::string Nom_Proveidor(const std::string& nif) {
-  return Camp_De(clau, nif, "RAO_SOCIAL_PRO").Text();
+  return Descripcio_De(referencia_proveidors, nif);
 }
 
 std::array<std::string, 6> Dades_Proveidor(const std::string& nif) {

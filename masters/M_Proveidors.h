@@ -4,6 +4,10 @@
 #include <array>
 #include <string>
 
+#include "core/M_Mestres.h"
+
+inline constexpr Referencia referencia_proveidors = {{"PROVEIDORS", "NIF_PRO"}, "RAO_SOCIAL_PRO"};
+
 void Esborrar_Proveidor(const std::string& nif, const std::string& rao_social);  // asks; nothing when in use
 std::string Nou_Proveidor();  // its code; raises 80004005 when another terminal took it at the same moment
 std::string Nom_Proveidor(const std::string& nif);  // empty when there is none

@@ -3,7 +3,7 @@
 #include "core/M_Mestres.h"
 
 namespace {
-constexpr Lloc clau = {"SUBFAMILIES", "CODI_SUBF"};
+constexpr Lloc clau = referencia_subfamilies.clau;
 constexpr Lloc us[] = {{"ARTICLES", "SUBFAMILIA_ART"}};
 }  // namespace
 
@@ -14,7 +14,7 @@ void Esborrar_Subfamilia(const std::string& codi) {
 }
 
 std::string Descripcio_Subfamilia(const std::string& codi) {
-  return Camp_De(clau, codi, "DESCRIPCIO_SUBF").Text();
+  return Descripcio_De(referencia_subfamilies, codi);
 }
 
 bool Subfamilia_En_Us(const std::string& codi) {

@@ -3,7 +3,7 @@
 #include "core/M_Mestres.h"
 
 namespace {
-constexpr Lloc clau_venciment = {"VENCIMENTS", "CODI_VEN"};
+constexpr Lloc clau_venciment = referencia_venciments.clau;
 constexpr Lloc us_venciment[] = {{"CLIENTS", "VENCIMENT_CLI"}, {"PROVEIDORS", "VENCIMENT_PRO"}};
 constexpr Lloc clau_forma = {"FORMES_PAGAMENT", "ID_FP"};
 constexpr Lloc us_forma[] = {{"PAGAMENTS", "PAGAMENT_PAG"}, {"VENCIMENTS", "FP_VEN"}};
@@ -16,7 +16,7 @@ void Esborrar_Venciment(const std::string& codi) {
 }
 
 std::string Descripcio_Venciment(const std::string& codi) {
-  return Camp_De(clau_venciment, codi, "DESCRIPCIO_VEN").Text();
+  return Descripcio_De(referencia_venciments, codi);
 }
 
 bool Venciment_En_Us(const std::string& codi) {

@@ -4,6 +4,10 @@
 
 #include <string>
 
+#include "core/M_Mestres.h"
+
+inline constexpr Referencia referencia_venciments = {{"VENCIMENTS", "CODI_VEN"}, "DESCRIPCIO_VEN"};
+
 void Esborrar_Venciment(const std::string& codi);           // asks; nothing when a customer or a supplier has them
 std::string Descripcio_Venciment(const std::string& codi);  // empty when there is none
 bool Venciment_En_Us(const std::string& codi);

@@ -3,6 +3,8 @@
 #include <QMdiSubWindow>
 
 #include "core/F_Cerca.h"
+#include "core/F_Empresa.h"
+#include "core/F_EmpresesM.h"
 #include "core/F_Help.h"
 #include "core/F_Principal.h"
 #include "core/F_Subinici.h"
@@ -16,6 +18,7 @@
 #include "core/pantalla/Formulari.h"
 #include "core/pantalla/Instancia_Unica.h"
 #include "core/pantalla/Pantalla_Qt.h"
+#include "masters/F_Mestres.h"
 #include "masters/F_Referencies.h"
 #include "sales/F_Vendes.h"
 
@@ -54,6 +57,9 @@ void Registrar_Formularis() {
   Registrar_Formulari(QStringLiteral("F_HELP"), [] { return new F_Help; });
   Registrar_Formulari(QStringLiteral("F_USUARISM"), [] { return new F_UsuarisM; });
   Registrar_Formulari(QStringLiteral("F_USUARI"), [] { return new F_Usuari; });
+  Registrar_Formulari(QStringLiteral("F_EMPRESESM"), [] { return new F_EmpresesM; });
+  Registrar_Formulari(QStringLiteral("F_EMPRESA"), [] { return new F_Empresa; });
+  Registrar_Formularis_Mestres();
   Registrar_Formularis_Referencia();
   Registrar_Formularis_Venda();
 }

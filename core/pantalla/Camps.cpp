@@ -23,7 +23,7 @@ bool Canvia_De_Finestra(Qt::FocusReason motiu) {
 bool Se_N_Va() {
   const QWidget* ara = QApplication::focusWidget();
   const bool de_pas = motiu_de_sortir == Qt::TabFocusReason || motiu_de_sortir == Qt::BacktabFocusReason;
-  return ara != nullptr && ara->objectName() == u"B_Exit" && !de_pas;
+  return ara != nullptr && ara->objectName().compare(QLatin1String("B_Exit"), Qt::CaseInsensitive) == 0 && !de_pas;
 }
 
 const Formulari* Formulari_De(const QWidget* camp) {

@@ -72,6 +72,10 @@ int Graella::Amplada_Propia(int columna) const {
 
 void Graella::Lligar(Recordset* rs) {
   model_->Lligar(rs);
+  for (int columna = 0; columna < model_->columnCount(); ++columna) {
+    if (model_->Columnes()[static_cast<std::size_t>(columna)].opcional)
+      setColumnHidden(columna, !model_->Hi_Es(columna));
+  }
   Refrescar();
 }
 

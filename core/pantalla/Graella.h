@@ -18,6 +18,7 @@ struct Columna_Graella {
   bool a_la_dreta = false;
   const char* mascara = "";  // "#,##0.00", "0.00"; empty: as it is. Dates are DD/MM/YYYY
   bool casella = false;      // a boolean, shown as a tick
+  bool opcional = false;     // hidden when the statement does not give its field
 };
 
 // What a combo column takes: a code, and the text that it shows.

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 
 #include "core/dades/Numeros.h"
 #include "core/pantalla/Camps.h"
@@ -21,13 +22,20 @@ Valor Llegir_Escrit(const QString& text, Tipus_Columna tipus, const QString& on)
   Llancar_Error(errors::tipus, on.toStdString(), text.left(prou).toStdString());
 }
 
-void Lligam::Mostrar(const Valor& valor) {
+bool Lligam::Es_De_Text() const {
+  return qobject_cast<QLineEdit*>(control_) != nullptr || qobject_cast<QPlainTextEdit*>(control_) != nullptr;
+}
+
+void Lligam::Mostrar() {
+  const Valor valor = (*fila_)[columna_];
   const QString text = QString::fromStdString(valor.Text());
   if (auto* numeric = qobject_cast<Camp_Numeric*>(control_); numeric != nullptr && !valor.Es_Nul()) {
     numeric->Numero(valor.Doble());
   } else if (auto* camp = qobject_cast<QLineEdit*>(control_)) {
     camp->setText(text);
     camp->setCursorPosition(0);
+  } else if (auto* notes = qobject_cast<QPlainTextEdit*>(control_)) {
+    notes->setPlainText(text);
   } else if (auto* casella = qobject_cast<QCheckBox*>(control_)) {
     casella->setChecked(!valor.Es_Nul() && valor.Boolea());
   } else if (auto* data = qobject_cast<Selector_Data*>(control_)) {
@@ -40,6 +48,7 @@ void Lligam::Mostrar(const Valor& valor) {
 
 QString Lligam::Estat() const {
   if (const auto* camp = qobject_cast<QLineEdit*>(control_)) return camp->text();
+  if (const auto* notes = qobject_cast<QPlainTextEdit*>(control_)) return notes->toPlainText();
   if (const auto* casella = qobject_cast<QCheckBox*>(control_)) return casella->isChecked() ? QString(u'x') : QString();
   if (const auto* data = qobject_cast<Selector_Data*>(control_)) return data->Text();
   if (const auto* combo = qobject_cast<Combo_Codi*>(control_)) return QString::fromStdString(combo->Codi());
@@ -53,7 +62,12 @@ bool Lligam::Canviat() const {
 Valor Lligam::Escrit() const {
   if (const auto* casella = qobject_cast<QCheckBox*>(control_)) return casella->isChecked();
   if (const auto* data = qobject_cast<Selector_Data*>(control_)) return data->Data() ? Valor(*data->Data()) : Valor();
+  if (qobject_cast<Camp_Numeric*>(control_) != nullptr && Estat().trimmed().isEmpty()) return 0;
   return Llegir_Escrit(Estat(), tipus_, control_->objectName());
+}
+
+void Lligam::Posar() const {
+  fila_->Set(columna_, Escrit());
 }
 
 void Lligam::En_Canviar(const std::function<void()>& rutina) const {
@@ -68,12 +82,12 @@ void Lligam::En_Canviar(const std::function<void()>& rutina) const {
   }
 }
 
-std::vector<Lligam> Lligams_De(const Formulari& formulari, const Recordset& rs) {
+std::vector<Lligam> Lligams_De(const Formulari& formulari, Recordset& rs) {
   std::vector<Lligam> lligams;
   for (const Camp& camp : rs.Fields()) {
     for (const auto* paper : {"TXT_", "CHK_", "DT_", "CMB_"}) {
       QWidget* control = formulari.Cercar_Control(QString::fromStdString(paper + camp.nom));
-      if (control != nullptr) lligams.emplace_back(control, camp);
+      if (control != nullptr) lligams.emplace_back(control, rs, camp);
     }
   }
   return lligams;

@@ -18,27 +18,31 @@ Valor Llegir_Escrit(const QString& text, Tipus_Columna tipus, const QString& on)
 
 class Lligam {
  public:
-  Lligam(QWidget* control, const Camp& camp) : control_(control), columna_(camp.nom), tipus_(camp.tipus) {}
+  Lligam(QWidget* control, Recordset& fila, const Camp& camp)
+      : control_(control), fila_(&fila), columna_(camp.nom), tipus_(camp.tipus) {}
 
   QWidget* Control() const { return control_; }
-  const std::string& Columna() const { return columna_; }
+  bool Es_De_Text() const;  // it is typed, not chosen
 
-  void Mostrar(const Valor& valor);
+  void Mostrar();  // what the row holds
   // The control does not hold any more what Mostrar put there.
   bool Canviat() const;
-  // What it holds, for its column: an empty field is null. Raises 13 for a text where a number has to be.
-  Valor Escrit() const;
+  // Puts what it holds into the pending edit of the row: an empty field is null, an empty number 0. Raises 13 for a
+  // text where a number has to be.
+  void Posar() const;
   // `rutina` runs when the user leaves it (a field) or chooses in it (a box, a date, a combo).
   void En_Canviar(const std::function<void()>& rutina) const;
 
  private:
   QString Estat() const;
+  Valor Escrit() const;
 
   QWidget* control_;
+  Recordset* fila_;
   std::string columna_;
   Tipus_Columna tipus_;
   QString mostrat_;
 };
 
 // The controls of a form that are named after a column of the recordset: TXT_, CHK_, DT_ or CMB_ and its name.
-std::vector<Lligam> Lligams_De(const Formulari& formulari, const Recordset& rs);
+std::vector<Lligam> Lligams_De(const Formulari& formulari, Recordset& rs);

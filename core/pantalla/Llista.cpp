@@ -20,9 +20,11 @@ void Llista::Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton*
     Dibuixar(nou, Dibuix::Nou);
     connect(nou, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Nou(); }); });
   }
-  Dibuixar(esborrar, Dibuix::Esborrar);
+  if (esborrar != nullptr) {
+    Dibuixar(esborrar, Dibuix::Esborrar);
+    connect(esborrar, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Esborrar_Fila(); }); });
+  }
   Dibuixar(sortir, Dibuix::Sortir);
-  connect(esborrar, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Esborrar_Fila(); }); });
   connect(sortir, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
 }
 

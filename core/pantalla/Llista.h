@@ -30,7 +30,7 @@ class Llista : public Formulari {
 
   // Tells the grid of the .ui file and its columns; before Carregar.
   void Muntar(Graella* graella, const std::vector<Columna_Graella>& columnes);
-  // A list without a button for new rows has none.
+  // A list may lack the buttons that add and delete.
   void Muntar_Botons(QPushButton* nou, QPushButton* esborrar, QPushButton* sortir);
   // The rows as they stand now, back on the row where the list was.
   void Requerir();

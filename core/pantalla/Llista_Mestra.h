@@ -21,9 +21,8 @@ class Llista_Mestra : public Llista {
   void Nou() override { Obrir_Editor(mestra_.nou()); }
   void Obrir_Fila() override;
   void Esborrar_Fila() override;
-
- private:
   void Obrir_Editor(const std::string& codi);
 
+ private:
   const Descripcio_Mestra& mestra_;
 };

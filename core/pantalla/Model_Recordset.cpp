@@ -33,9 +33,20 @@ void Model_Recordset::Lligar(Recordset* rs) {
   fila_ = -1;
   camps_.clear();
   if (rs_ != nullptr && rs_->State()) {
-    for (const auto& columna : columnes_) camps_.push_back(rs_->Index_Camp(columna.camp));
+    for (const auto& columna : columnes_) camps_.push_back(Camp_De_Columna(columna));
   }
   endResetModel();
+}
+
+int Model_Recordset::Camp_De_Columna(const Columna_Graella& columna) const {
+  const auto es = [&](const Camp& camp) { return camp.nom == columna.camp; };
+  if (columna.opcional && std::none_of(rs_->Fields().begin(), rs_->Fields().end(), es)) return -1;
+  return rs_->Index_Camp(columna.camp);
+}
+
+bool Model_Recordset::Hi_Es(int columna) const {
+  const auto lloc = static_cast<std::size_t>(columna);
+  return lloc >= camps_.size() || camps_[lloc] >= 0;
 }
 
 bool Model_Recordset::Es_Obert() const {
@@ -73,7 +84,7 @@ void Model_Recordset::Titol(int columna, const QString& titol) {
 
 Valor Model_Recordset::Valor_De(int fila, int columna) const {
   const auto lloc = static_cast<std::size_t>(columna);
-  if (lloc >= camps_.size() || !rs_->State()) return {};
+  if (lloc >= camps_.size() || camps_[lloc] < 0 || !rs_->State()) return {};
   if (fila == fila_) return (*rs_)[camps_[lloc]];
   return rs_->Valor_De_Fila(fila, camps_[lloc]);
 }

@@ -23,6 +23,7 @@ class Model_Recordset : public QAbstractTableModel {
   void Titol(int columna, const QString& titol);
   QString Titol(int columna) const { return titols_.value(columna); }
   int Columna_De(const QString& camp) const;  // -1 none
+  bool Hi_Es(int columna) const;              // the statement gives its field
 
   Valor Valor_De(int fila, int columna) const;
   QString Text(int fila, int columna) const;
@@ -51,6 +52,7 @@ class Model_Recordset : public QAbstractTableModel {
 
  private:
   bool Es_Obert() const;
+  int Camp_De_Columna(const Columna_Graella& columna) const;
   void Posar(int fila, int columna, const Valor& valor);
   void Acabar();
 

@@ -68,8 +68,9 @@ const QStringList& Paraules_De_Motor() {
 struct Cami {
   const char* formulari;
   void (*obrir)();
-  bool prem_botons;         // its fields are read by its buttons
-  const char* repara = "";  // gives a code back to a row that no statement can name any more
+  bool prem_botons;          // its fields are read by its buttons
+  const char* prepara = "";  // leaves the one row that is edited
+  const char* repara = "";   // gives its code back to a row that no statement can name any more
 };
 
 void Doble_Clic(const char* llista, std::int64_t fila) {
@@ -87,8 +88,61 @@ constexpr char ajuda[] = "F_HELP";
 constexpr char albarans_s[] = "F_ALBARANSS";
 constexpr char albarans_m[] = "F_ALBARANSM";
 constexpr char usuaris_m[] = "F_USUARISM";
+constexpr char clients_m[] = "F_CLIENTSM";
+constexpr char proveidors_m[] = "F_PROVEIDORSM";
+constexpr char empreses_m[] = "F_EMPRESESM";
+constexpr char articles_selc[] = "F_ARTICLESSELC";
+constexpr char articles_mc[] = "F_ARTICLESMC";
+constexpr char articles_mcs[] = "F_ARTICLESMCS";
+constexpr char marques_m[] = "F_MARQUESM";
+constexpr char families_m[] = "F_FAMILIESM";
+constexpr char subfamilies_m[] = "F_SUBFAMILIESM";
+constexpr char ivas_m[] = "F_IVASM";
+constexpr char cp_m[] = "F_CPM";
+constexpr char venciments_m[] = "F_VENCIMENTSM";
+constexpr char formes_pagament_m[] = "F_FORMESPAGAMENTM";
+constexpr char magatzems_m[] = "F_MAGATZEMSM";
+
+// The editor of the row of that code, or of the code that it was given since.
+template <const char* formulari, std::string Sessio::*per_obrir, const char* codi>
+void Obrir_Editor() {
+  if ((sessio.*per_obrir).empty()) sessio.*per_obrir = codi;
+  Obrir(QString::fromLatin1(formulari));
+}
+constexpr char client[] = "F_CLIENT";
+constexpr char proveidor[] = "F_PROVEIDOR";
+constexpr char empresa[] = "F_EMPRESA";
+constexpr char un_article[] = "F_ARTICLE";
+constexpr char usuari[] = "F_USUARI";
+constexpr char codi_client[] = "B1";
+constexpr char codi_proveidor[] = "P1";
+constexpr char codi_empresa[] = "B11111111";
+constexpr char codi_article[] = "AAA";
+constexpr char codi_usuari[] = "ANNA";
 
 const Cami camins[] = {
+    {clients_m, Obrir_Sol<clients_m>, true},
+    {client, Obrir_Editor<client, &Sessio::Nif_Client, codi_client>, false,
+     "DELETE * FROM CLIENTS WHERE NIF_CLI <> 'B1'", "UPDATE CLIENTS SET NIF_CLI = 'B1'"},
+    {proveidors_m, Obrir_Sol<proveidors_m>, true},
+    {proveidor, Obrir_Editor<proveidor, &Sessio::Nif_Proveidor, codi_proveidor>, false, "",
+     "UPDATE PROVEIDORS SET NIF_PRO = 'P1'"},
+    {empreses_m, Obrir_Sol<empreses_m>, true},
+    {empresa, Obrir_Editor<empresa, &Sessio::Nif_Empresa, codi_empresa>, false,
+     "DELETE * FROM EMPRESES WHERE NIF_EMP <> 'B11111111'", "UPDATE EMPRESES SET NIF_EMP = 'B11111111'"},
+    {articles_selc, Obrir_Sol<articles_selc>, true},
+    {articles_mc, Obrir_Sol<articles_mc>, true},
+    {articles_mcs, Obrir_Sol<articles_mcs>, true},
+    {un_article, Obrir_Editor<un_article, &Sessio::Codi_Article, codi_article>, false,
+     "DELETE * FROM ARTICLES WHERE CODI_ART <> 'AAA'", "UPDATE ARTICLES SET CODI_ART = 'AAA'"},
+    {marques_m, Obrir_Sol<marques_m>, false},
+    {families_m, Obrir_Sol<families_m>, false},
+    {subfamilies_m, Obrir_Sol<subfamilies_m>, false},
+    {ivas_m, Obrir_Sol<ivas_m>, false},
+    {cp_m, Obrir_Sol<cp_m>, false},
+    {venciments_m, Obrir_Sol<venciments_m>, false},
+    {formes_pagament_m, Obrir_Sol<formes_pagament_m>, false},
+    {magatzems_m, Obrir_Sol<magatzems_m>, false},
     {subinici, Obrir_Sol<subinici>, true},
     {ajuda, Obrir_Sol<ajuda>, false},
     {"F_CERCA",
@@ -106,12 +160,8 @@ const Cami camins[] = {
      },
      false},
     {usuaris_m, Obrir_Sol<usuaris_m>, false},
-    {"F_USUARI",
-     [] {
-       Obrir(QStringLiteral("F_USUARISM"));
-       Doble_Clic("F_USUARISM", 1);
-     },
-     false, "UPDATE USUARIS SET CODI_USU = 'ANNA' WHERE CODI_USU <> 'ADMIN' AND CODI_USU <> 'PERE'"},
+    {usuari, Obrir_Editor<usuari, &Sessio::Codi_Usuari, codi_usuari>, false,
+     "DELETE * FROM USUARIS WHERE CODI_USU = 'PERE'", "UPDATE USUARIS SET CODI_USU = 'ANNA' WHERE CODI_USU <> 'ADMIN'"},
 };
 
 // The rows that the scripts use too: a line a statement, after the word of its database.
@@ -133,6 +183,10 @@ class Text_Hostil : public Base_Pantalles, public testing::WithParamInterface<Ca
  protected:
   Text_Hostil() {
     for (const char* dades : {"botiga.txt", "albarans.txt", "usuaris.txt"}) Carregar_Dades(QString::fromLatin1(dades));
+    sessio.Connexio_Comuna.Execute("INSERT INTO PROVEIDORS (NIF_PRO, RAO_SOCIAL_PRO) VALUES ('P1', 'Ferros')");
+    sessio.Connexio_Comuna.Execute("INSERT INTO ARTICLES (CODI_ART, DESCRIPCIO_ART) VALUES ('AAA', 'Hostil')");
+    sessio.Parametres["Fitxa_Client_Dades_Visible"] = "True";
+    if (*GetParam().prepara != '\0') sessio.Connexio_Comuna.Execute(GetParam().prepara);
     sessio.pantalla = &pantalla_;
     Fixar_Avui({2011, 3, 15});
     Pantalla_Qt::Contestador = [this](const QString& text, int estil, const QString& titol) {
@@ -172,6 +226,9 @@ class Text_Hostil : public Base_Pantalles, public testing::WithParamInterface<Ca
     EXPECT_FALSE(caixes_.empty());
     Comprovar_Caixes();
     sessio.Connexio_Comuna.Execute(GetParam().repara);
+    for (auto codi : {&Sessio::Nif_Client, &Sessio::Nif_Proveidor, &Sessio::Nif_Empresa, &Sessio::Codi_Article,
+                      &Sessio::Codi_Usuari})
+      (sessio.*codi).clear();
     Tancar_I_Obrir();
     return false;
   }
@@ -254,7 +311,7 @@ class Text_Hostil : public Base_Pantalles, public testing::WithParamInterface<Ca
   void Comprovar_Caixes() const {
     for (const Caixa_Vista& caixa : caixes_) {
       const QString text = QString::fromStdString(caixa.text);
-      EXPECT_FALSE(text.trimmed().isEmpty());
+      EXPECT_TRUE(!text.trimmed().isEmpty() || caixa.estil == estil::informacio);  // no addresses to copy
       EXPECT_LT(text.size(), 600) << text.left(200).toStdString();
       EXPECT_TRUE(caixa.titol == "Brollador" || caixa.titol == "Usuari") << caixa.titol;
       // A text that no statement can hold is named in the box; a statement that was broken would name something else.
@@ -311,11 +368,14 @@ std::string Nom_De_Prova(const testing::TestParamInfo<Cami>& info) {
 TEST_P(Text_Hostil, Is_stored_or_refused_in_every_field) {
   Obrir_De_Nou();
   ASSERT_NE(Obert(), nullptr) << (caixes_.empty() ? "without a word" : caixes_.back().text);
-  RecordProperty("fields", static_cast<int>(Camps().size()));
-  for (const QString& nom : Camps()) {
+  const QStringList camps = Camps();
+  // A screen of many fields takes each text in some of them.
+  const qsizetype salt = camps.size() > 12 ? 4 : 1;
+  for (const QString& nom : camps) {
     SCOPED_TRACE(nom.toStdString());
     const bool es_desa = Es_Desa(nom);
-    for (const QString& text : Textos_Hostils()) {
+    for (qsizetype i = camps.indexOf(nom) % salt; i < Textos_Hostils().size(); i += salt) {
+      const QString& text = Textos_Hostils()[i];
       SCOPED_TRACE(text.left(60).toStdString());
       const auto abans = Files();
       Provar(nom, text);

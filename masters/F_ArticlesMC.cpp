@@ -1,0 +1,47 @@
+#include "masters/F_ArticlesMC.h"
+
+#include "core/M_Funcions_Comuns.h"
+#include "core/pantalla/Control_Interface.h"
+#include "masters/F_ArticlesSelC.h"
+#include "masters/F_Columnes_Articles.h"
+#include "ui_F_ArticlesMC.h"
+
+namespace {
+
+constexpr Descripcio_Mestra articles = {.editor = u"F_ARTICLE",
+                                        .codi = "CODI_ART",
+                                        .descripcio = "DESCRIPCIO_ART",
+                                        .per_obrir = &Sessio::Codi_Article,
+                                        .nou = Nou_Article,
+                                        .esborrar = Esborrar_Article};
+
+}  // namespace
+
+F_ArticlesMC::F_ArticlesMC()
+    : Llista_Mestra(QStringLiteral("F_ArticlesMC"), articles), ui_(std::make_unique<Ui::F_ArticlesMC>()) {
+  ui_->setupUi(this);
+  Muntar(ui_->G_ArticlesMC, Columnes_Articles());
+  Muntar_Botons(ui_->B_NouArticle, ui_->B_EsborrarArticle, ui_->B_Exit);
+  ui_->G_ArticlesMC->Estil_De_Fila([this](std::int64_t fila) { return Estil_Article(rs_, fila); });
+}
+
+F_ArticlesMC::~F_ArticlesMC() = default;
+
+// Empty, until it comes to the front with the criteria.
+std::string F_ArticlesMC::Sentencia() const {
+  return SQL_Articles({.codi = cap_article, .descripcio = cap_article});
+}
+
+void F_ArticlesMC::Activar() {
+  const auto* cerca = static_cast<F_ArticlesSelC*>(Carregar_Amagat(QStringLiteral("F_ARTICLESSELC")));
+  sessio.Posicio_Guardada = static_cast<std::int32_t>(rs_.AbsolutePosition());
+  rs_.Reopen(SQL_Articles(cerca->Criteris()));
+  Reposicionar(rs_, sessio.Posicio_Guardada - 1);
+  ui_->G_ArticlesMC->Lligar(&rs_);
+}
+
+void F_ArticlesMC::Nou() {
+  const std::string codi = Nou_Article();
+  Requerir();
+  Obrir_Editor(codi);
+}

@@ -1,0 +1,31 @@
+// The editor of a customer: its data, its sales, its additional data. Every field saves when it is left.
+#pragma once
+
+#include <memory>
+
+#include "core/pantalla/Fitxa.h"
+
+namespace Ui {
+class F_Client;
+}
+
+class F_Client : public Fitxa {
+  Q_OBJECT
+ public:
+  F_Client();
+  ~F_Client() override;
+  void Descarregar() override;
+
+ protected:
+  std::string Sentencia() const override;
+  void Abans_De_Mostrar() override;
+  void Mostrar_Altres() override;
+  void Abans_De_Desar() override;
+
+ private:
+  bool Amb_Dades_Addicionals() const;
+  void Mostrar_Vendes();
+  Recordset dades_;
+  Recordset vendes_;
+  std::unique_ptr<Ui::F_Client> ui_;
+};

@@ -1,0 +1,4 @@
+// The screens of customers, suppliers and articles.
+#pragma once
+
+void Registrar_Formularis_Mestres();
