@@ -10,7 +10,7 @@ const std::vector<Columna_Graella>& Columnes_Articles() {
       {"PORC_IVA", 800, "% IVA", true},
       {"COST_ART", 1000, "Preu Cost", true, "0.00"},
       {"PVP_NET_ART", 1000, "PVP Net", true, "0.00"},
-      {"DESCOMPTE_ART", 600, "Dte", true, "0.00"},
+      {"DESCOMPTE_ART", 750, "Dte", true, "0.00"},
       {"ACTIU_ART", 800, "Actiu", false, "", true},
   };
   return columnes;

@@ -1,6 +1,7 @@
 #include "core/pantalla/Control_Interface.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <algorithm>
@@ -54,8 +55,16 @@ QSize Mida_Propia(const Formulari* formulari) {
   return formulari->sizeHint() + vora;
 }
 
+// What is inside pages of tabs has been measured before its fonts and texts were there.
+void Mesurar_De_Nou(const Formulari* formulari) {
+  for (auto* peca : formulari->findChildren<QWidget*>()) peca->ensurePolished();
+  for (auto* disposicio : formulari->findChildren<QLayout*>()) disposicio->invalidate();
+  for (auto* peca : formulari->findChildren<QWidget*>()) peca->updateGeometry();
+}
+
 // The size that the user gave it, or room enough for what the form asks for; never more than there is.
 void Collocar(Formulari* formulari) {
+  Mesurar_De_Nou(formulari);
   QMdiArea* area = F_Principal::Unica()->Area();
   QMdiSubWindow* finestra = area->addSubWindow(formulari);
   finestra->setAttribute(Qt::WA_DeleteOnClose);
