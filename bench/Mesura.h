@@ -34,5 +34,6 @@ struct Parella {
 std::vector<Figura> Mesurar_Linia_Albara();
 std::vector<Figura> Mesurar_Servidor();
 std::vector<Figura> Mesurar_Llista_Albarans();
+std::vector<Figura> Mesurar_Llista_Mestres();
 std::vector<Figura> Mesurar_Inici();
 std::vector<Figura> Mesurar_Calculs();

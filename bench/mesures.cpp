@@ -11,8 +11,8 @@ namespace {
 
 std::vector<Figura> Mesurar_Tot() {
   std::vector<Figura> totes;
-  for (auto* subjecte :
-       {Mesurar_Linia_Albara, Mesurar_Servidor, Mesurar_Llista_Albarans, Mesurar_Inici, Mesurar_Calculs}) {
+  for (auto* subjecte : {Mesurar_Linia_Albara, Mesurar_Servidor, Mesurar_Llista_Albarans, Mesurar_Llista_Mestres,
+                         Mesurar_Inici, Mesurar_Calculs}) {
     for (auto& figura : subjecte()) totes.push_back(std::move(figura));
   }
   return totes;

@@ -171,11 +171,26 @@ void Fer_Clients(Sort& sort) {
                 {"CP_CLI", cp},
                 {"LOCALITAT_CLI", localitat},
                 {"TELEFON_CLI", Codi("972 ", 100000 + sort.Fins(899999), 6)},
+                {"EMAIL_CLI", i % 2 == 0 ? Valor("client" + std::to_string(i) + "@exemple.example") : Valor()},
                 {"VENCIMENT_CLI", i % 3 == 0   ? "3060"
                                   : i % 3 == 1 ? "30"
                                                : "NO"},
                 {"IVA_CLI", !sense_iva},
                 {"RE_CLI", !sense_iva && i % 11 == 0}});
+  }
+}
+
+// Those that are persons have a birthday.
+void Fer_Dades_De_Clients() {
+  Recordset persones("SELECT NIF_CLI, RAO_SOCIAL_CLI FROM CLIENTS WHERE NIF_CLI LIKE '4%' ORDER BY NIF_CLI",
+                     sessio.Connexio_Comuna);
+  Recordset rs;
+  Obrir_Buit(rs, "CLIENTS_DADES");
+  for (int i = 1; !persones.Eof(); persones.MoveNext(), ++i) {
+    Afegir(rs, {{"NIF_CLID", persones["NIF_CLI"]},
+                {"CLIENT_DESC_CLID", persones["RAO_SOCIAL_CLI"]},
+                {"NAIXEMENT_CLID", Data_Serial(1950 + i % 45, 1, 1 + i * 11)},
+                {"PROFESSIO_CLID", demostracio::oficis[static_cast<std::size_t>(i) % demostracio::oficis.size()]}});
   }
 }
 
@@ -309,6 +324,7 @@ void Fer_Any(const Opcions_Installacio& opcions) {
   Fer_Empresa();
   Fer_Taules_De_Referencia();
   Fer_Clients(sort);
+  Fer_Dades_De_Clients();
   Fer_Proveidors(sort);
   Fer_Articles(sort);
   Entrar_Existencies(sort);

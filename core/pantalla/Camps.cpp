@@ -49,7 +49,7 @@ class Vigia_De_Focus : public QObject {
   }
   // Runs the routines of a field that wait for this kind of event.
   static void Executar(const QWidget* camp, QEvent::Type tipus) {
-    const QObjectList fills = camp->children();
+    const QObjectList fills(camp->children().begin(), camp->children().end());  // a routine may take some away
     for (QObject* fill : fills) {
       const auto* vigia = dynamic_cast<Vigia_De_Focus*>(fill);
       if (vigia != nullptr && vigia->tipus_ == tipus) vigia->rutina_();

@@ -157,6 +157,7 @@ void Graella::currentChanged(const QModelIndex& actual, const QModelIndex& anter
 void Graella::keyPressEvent(QKeyEvent* event) {
   const bool entra = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (event->key() == Qt::Key_Escape && En_Edicio()) return Descartar_Fila();
+  if (entra && state() == EditingState) return;  // the editor has it
   if (entra && model_->Permet_Canvis()) return Avancar();
   if (entra && Fila_Actual() >= 0) {
     Q_EMIT Doble_Clic(Fila_Actual());
@@ -221,7 +222,7 @@ bool Graella::edit(const QModelIndex& index, EditTrigger motiu, QEvent* event) {
 void Graella::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint com) {
   const bool entra = com == QAbstractItemDelegate::SubmitModelCache;
   QTableView::closeEditor(editor, entra ? QAbstractItemDelegate::NoHint : com);
-  if (entra) Avancar();
+  if (entra) QMetaObject::invokeMethod(this, &Graella::Avancar, Qt::QueuedConnection);  // when the editor has gone
 }
 
 // A row that is refused is where the user goes back to.

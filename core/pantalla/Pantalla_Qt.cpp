@@ -119,7 +119,7 @@ bool Pantalla_Qt::eventFilter(QObject* objecte, QEvent* event) {
 std::string Pantalla_Qt::Triar_Empresa(const std::string& actual, int idioma) {
   if (Triador_Empresa) return Triador_Empresa(actual, idioma);
   QApplication::setOverrideCursor(Qt::ArrowCursor);
-  const std::string triada = Selector_Empresa(actual).Triar();
+  std::string triada = Selector_Empresa(actual).Triar();
   QApplication::restoreOverrideCursor();
   return triada;
 }

@@ -9,6 +9,8 @@
 #include <filesystem>
 
 #include "core/pantalla/Camps.h"
+#include "core/pantalla/Drets.h"
+#include "core/pantalla/Graella.h"
 #include "tests/pantalles/Cada_Pantalla.h"
 
 namespace {
@@ -175,8 +177,9 @@ class Text_Hostil : public Cada_Pantalla {
   // Rows of every shared table.
   static std::map<std::string, std::int64_t> Files() {
     std::map<std::string, std::int64_t> files;
-    for (const char* taula : {"CLIENTS", "ARTICLES", "USUARIS", "EMPRESES", "ALBARACAP", "ALBARALIN", "STOCK", "IVAS",
-                              "CP", "VENCIMENTS", "ALMACENES", "LANGUAGES", "COMANDALIN"}) {
+    for (const char* taula : {"CLIENTS", "ARTICLES", "USUARIS", "FAMILIES", "SUBFAMILIES", "MARQUES", "FORMES_PAGAMENT",
+                              "PROVEIDORS", "EMPRESES", "ALBARACAP", "ALBARALIN", "STOCK", "IVAS", "CP", "VENCIMENTS",
+                              "ALMACENES", "LANGUAGES", "COMANDALIN"}) {
       files[taula] = Recordset(std::string("SELECT * FROM ") + taula, sessio.Connexio_Comuna).RecordCount();
     }
     return files;
@@ -223,6 +226,38 @@ TEST_P(Text_Hostil, Is_stored_or_refused_in_every_field) {
       Comprovar_Caixes();
       if (!es_la_mateixa || !caixes_.empty() || Camp(nom) == nullptr) continue;
       EXPECT_EQ(Text(Camp(nom)).toStdString(), vist.toStdString());
+    }
+  }
+}
+
+TEST_P(Text_Hostil, Is_taken_or_refused_by_the_cells_of_a_grid) {
+  if (!S_Edita_En_Lloc(Nom())) GTEST_SKIP() << "no grid to type in";
+  Obrir_De_Nou();
+  for (int columna = 0; columna < Obert()->Graella_Llista()->model()->columnCount(); ++columna) {
+    for (const QString& text : Textos_Hostils()) {
+      SCOPED_TRACE(std::to_string(columna) + " " + text.left(60).toStdString());
+      Graella* graella = Obert()->Graella_Llista();
+      const auto abans = Files();
+      caixes_.clear();
+      escrit_ = text.left(text.indexOf(QChar(u'\0')));
+      // A new row, whose other cells are empty or what the last text has left there.
+      const QModelIndex cella = graella->model()->index(graella->model()->rowCount() - 1, columna);
+      if ((cella.flags() & Qt::ItemIsEditable) == 0) break;
+      graella->setFocus();
+      graella->setCurrentIndex(cella);
+      static_cast<QTableView*>(graella)->edit(cella);
+      auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+      if (editor == nullptr) break;  // a combo takes nothing but its entries
+      editor->selectAll();
+      editor->insert(text);
+      QTest::keyClick(editor, Qt::Key_Return);
+      Assentar();
+      if (!graella->Desar_Fila()) graella->Descartar_Fila();
+      Assentar();
+      Comprovar_Caixes();
+      EXPECT_FALSE(graella->En_Edicio());
+      EXPECT_FALSE(sessio.Transaccio_Oberta);
+      for (const auto& [taula, files] : Files()) EXPECT_GE(files, abans.at(taula)) << taula;
     }
   }
 }
