@@ -67,8 +67,9 @@ struct Entrada {
 constexpr const char16_t* submenu = u"";  // in place of a form
 constexpr const char16_t* ratlla = u"-";
 
+// Captions without letters of their own: Alt and a letter is for the form in front, Alt alone goes to the menu.
 const Entrada entrades[] = {
-    {u"M_Mestres", nullptr, u"&Mestres", submenu},
+    {u"M_Mestres", nullptr, u"Mestres", submenu},
     {u"M_Empresa", u"M_Mestres", u"Empreses", u"F_EMPRESESM"},
     {u"M_Usuaris", u"M_Mestres", u"Usuaris", u"F_USUARISM"},
     {u"M_Guio1", u"M_Mestres", ratlla},
@@ -90,7 +91,7 @@ const Entrada entrades[] = {
     {u"M_Venciments", u"M_Mestres", u"Venciments", u"F_VENCIMENTSM"},
     {u"M_Guio5", u"M_Mestres", ratlla},
     {u"M_Exit", u"M_Mestres", u"Sortir", nullptr, Acabar_Aplicacio},
-    {u"M_Gestio", nullptr, u"&Gestió", submenu},
+    {u"M_Gestio", nullptr, u"Gestió", submenu},
     {u"M_Pressupostos", u"M_Gestio", u"Pressupostos", u"F_PRESSUPOSTOSS"},
     {u"M_Comandes", u"M_Gestio", u"Comandes", u"F_COMANDESS"},
     {u"M_Albarans", u"M_Gestio", u"Albarans", u"F_ALBARANSS"},
@@ -100,16 +101,16 @@ const Entrada entrades[] = {
     {u"M_Compres", u"M_Gestio", u"Albarans de Compres", u"F_ALBCOMPRESS"},
     {u"M_Guio7", u"M_Gestio", ratlla},
     {u"M_Cartera", u"M_Gestio", u"Cartera", u"F_PAGAMENTSS"},
-    {u"M_Forms", nullptr, u"&Formularis", submenu},
+    {u"M_Forms", nullptr, u"Formularis", submenu},
     {u"M_PrintScreen", u"M_Forms", u"Imprimir Formulari", nullptr, Imprimir_Del_Davant},
     {u"M_CloseForm", u"M_Forms", u"Tancar Formulari", nullptr, Tancar_Del_Davant},
     {u"M_Guio8", u"M_Forms", ratlla},
     {u"M_Search", u"M_Forms", u"Cercar", nullptr, Cercar_Al_Davant},
-    {u"M_Languages", nullptr, u"&Idiomes", submenu},
+    {u"M_Languages", nullptr, u"Idiomes", submenu},
     {u"M_Catalan", u"M_Languages", u"Català", nullptr, Parlar<0>, true},
     {u"M_Spanish", u"M_Languages", u"Castellà", nullptr, Parlar<1>, true},
     {u"M_English", u"M_Languages", u"Anglès", nullptr, Parlar<2>, true},
-    {u"M_Windows", nullptr, u"Fi&nestres", submenu},
+    {u"M_Windows", nullptr, u"Finestres", submenu},
     {u"M_Help", nullptr, u"Ajuda", u"F_HELP"},
     {u"M_CanviUsuari", nullptr, u"Canviar d'usuari", nullptr, Canviar_Usuari},
     {u"M_Sel_Empresa", nullptr, u"Canviar d'Empresa", nullptr, Canviar_Empresa},

@@ -25,6 +25,11 @@ std::string F_ArticlesMCS::Sentencia() const {
                        .actiu = "-1"});
 }
 
+void F_ArticlesMCS::Carregar() {
+  Llista::Carregar();
+  ui_->TXT_CODI->setFocus();
+}
+
 void F_ArticlesMCS::Filtrar() {
   filtrada_ = true;
   rs_.Reopen(Sentencia());

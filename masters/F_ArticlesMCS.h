@@ -14,6 +14,7 @@ class F_ArticlesMCS : public Llista {
  public:
   F_ArticlesMCS();
   ~F_ArticlesMCS() override;
+  void Carregar() override;
 
  protected:
   std::string Sentencia() const override;

@@ -43,6 +43,7 @@ F_ArticlesSelC::~F_ArticlesSelC() = default;
 void F_ArticlesSelC::Carregar() {
   for (const Combo& combo : combos)
     ((*ui_).*combo.combo)->Omplir(combo.sentencia, sessio.Connexio_Comuna, combo.codi, combo.descripcio);
+  ui_->CMB_FAMILIA->setFocus();
 }
 
 void F_ArticlesSelC::Netejar() {

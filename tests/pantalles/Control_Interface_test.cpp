@@ -1,7 +1,9 @@
 #include "core/pantalla/Control_Interface.h"
 
 #include <QMdiArea>
+#include <QTest>
 
+#include "core/pantalla/Aplicacio.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {
@@ -38,4 +40,22 @@ TEST_F(Finestres, A_second_opening_finds_the_same_instance) {
   const Formulari* primer = Obrir_I_Tenir("F_HELP");
   EXPECT_EQ(Obrir_I_Tenir("F_HELP"), primer);
   EXPECT_EQ(Formularis_Carregats().size(), 1U);
+}
+
+// ---- The right button on a reference table
+
+TEST_F(Finestres, The_right_button_searches_the_terms_and_the_methods_of_payment_alone) {
+  Registrar_Formularis();
+  for (const auto& [nom, cerca] : {std::pair("F_VENCIMENTSM", true), std::pair("F_FORMESPAGAMENTM", true),
+                                   std::pair("F_MARQUESM", false), std::pair("F_CPM", false)}) {
+    SCOPED_TRACE(nom);
+    QWidget* vista = Obrir_I_Tenir(nom)->Graella_Llista()->viewport();
+    QTest::mousePress(vista, Qt::LeftButton, {}, QPoint(20, 10));
+    QTest::mouseRelease(vista, Qt::LeftButton, {}, QPoint(20, 10));
+    EXPECT_EQ(Obert("F_CERCA"), nullptr);
+    QTest::mousePress(vista, Qt::RightButton, {}, QPoint(20, 10));
+    EXPECT_EQ(Obert("F_CERCA") != nullptr, cerca);
+    Tancar(nom);
+    EXPECT_EQ(Obert("F_CERCA"), nullptr);
+  }
 }

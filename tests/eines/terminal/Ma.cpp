@@ -1,5 +1,6 @@
 #include "tests/eines/terminal/Ma.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeySequence>
@@ -8,6 +9,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QtTest>
+#include <algorithm>
 #include <iterator>
 
 #include "tests/eines/terminal/Cercar.h"
@@ -44,10 +46,22 @@ QWidget& Receptor() {
   return *receptor;
 }
 
+// A button that is pressed by its key stays down for a moment, and does its work when it comes up.
+bool Hi_Ha_Boto_Premut() {
+  const QWidgetList tots = QApplication::allWidgets();
+  return std::any_of(tots.begin(), tots.end(), [](const QWidget* peca) {
+    const auto* boto = qobject_cast<const QAbstractButton*>(peca);
+    return boto != nullptr && boto->isVisible() && boto->isDown();
+  });
+}
+
 // What a key sets in motion ends before the next one: no person is faster than the windows that a key shows.
 void Envia(Qt::Key tecla, const QString& text, Qt::KeyboardModifiers amb) {
   QTest::sendKeyEvent(QTest::Click, &Receptor(), tecla, text, amb);
   Calmar();
+  constexpr int pas = 10;  // ms
+  for (int espera = 0; espera < paciencia && (amb & Qt::AltModifier) != 0 && Hi_Ha_Boto_Premut(); espera += pas)
+    QTest::qWait(pas);
 }
 
 void Prem_Combinacio(const QString& nom) {
