@@ -5,6 +5,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 #include "core/F_Cerca.h"
 #include "core/M_Empresa.h"
@@ -67,7 +68,8 @@ struct Entrada {
 constexpr const char16_t* submenu = u"";  // in place of a form
 constexpr const char16_t* ratlla = u"-";
 
-// Captions without letters of their own: Alt and a letter is for the form in front, Alt alone goes to the menu.
+// Captions without letters of their own: Alt and a letter is for the form in front, Alt alone, or F10, goes to the
+// menu.
 const Entrada entrades[] = {
     {u"M_Mestres", nullptr, u"Mestres", submenu},
     {u"M_Empresa", u"M_Mestres", u"Empreses", u"F_EMPRESESM"},
@@ -176,6 +178,10 @@ void F_Principal::Crear_Menu() {
   }
   Accio(QStringLiteral("M_Search"))->setShortcut(QKeySequence::Find);
   Accio(QStringLiteral("M_CloseForm"))->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+  connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, [this] {
+    menuBar()->setFocus(Qt::MenuBarFocusReason);
+    menuBar()->setActiveAction(Accio(QStringLiteral("M_Mestres")));
+  });
   connect(menus[QStringLiteral("M_Windows")], &QMenu::aboutToShow, this, &F_Principal::Omplir_Finestres);
 }
 
