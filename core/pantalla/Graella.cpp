@@ -197,8 +197,25 @@ bool Graella::En_Edicio() const {
 
 bool Graella::Desar_Fila() {
   if (!En_Edicio()) return true;
-  Formulari::Guardar_Event([this] { model_->Desar_Fila(); });
+  Formulari::Guardar_Event([this] {
+    try {
+      model_->Desar_Fila();
+    } catch (const Error_Brollador& error) {
+      if (error.Numero() == errors::concurrencia) Rellegir();
+      throw;
+    }
+  });
   return !En_Edicio();
+}
+
+// What another terminal has changed or deleted meanwhile is shown as it stands, and the edit is given up.
+void Graella::Rellegir() {
+  model_->Descartar_Fila();
+  Recordset& rs = *model_->Lligat();
+  const std::int64_t posicio = rs.AbsolutePosition();
+  rs.Requery();
+  if (rs.RecordCount() > 0) rs.AbsolutePosition(std::clamp<std::int64_t>(posicio, 1, rs.RecordCount()));
+  Refrescar();
 }
 
 void Graella::Descartar_Fila() {

@@ -53,7 +53,8 @@ class Graella : public QTableView {
   QString Titol_Columna(int index) const;
 
   // Rows may be changed and added in the grid, or only read. A row is written when it is left; one that is refused
-  // stays in edit with what was typed, and Esc gives it up. Enter goes to the next cell.
+  // stays in edit with what was typed, and Esc gives it up; one that another terminal changed is read again. Enter goes
+  // to the next cell.
   void Permetre_Canvis(bool permes);
   void Desplegable(const QString& camp, const std::vector<Opcio_Graella>& opcions);
   bool En_Edicio() const;
@@ -83,5 +84,6 @@ class Graella : public QTableView {
   void Deixar_Fila(int fila);
   void Deixar_Graella(const QWidget* ara);
   void Avancar();
+  void Rellegir();
   Model_Recordset* model_;
 };
