@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 #include "core/M_Funcions_Comuns.h"
@@ -193,7 +194,9 @@ bool Hi_Ha_Aniversaris(int dies) {
 bool Toca_Avisar_Aniversaris() {
   const auto parametre = sessio.Parametres.find("P_Avis_Aniversaris_Dies");
   if (parametre == sessio.Parametres.end()) return false;
-  sessio.Dies_Avis_Aniversaris = static_cast<std::int16_t>(Valor(parametre->second).Enter());
+  const std::int64_t dies = Valor(parametre->second).Enter();
+  if (dies > std::numeric_limits<std::int16_t>::max()) Llancar_Error(errors::desbordament, "Toca_Avisar_Aniversaris");
+  sessio.Dies_Avis_Aniversaris = static_cast<std::int16_t>(std::max<std::int64_t>(dies, 0));
   return Hi_Ha_Aniversaris(sessio.Dies_Avis_Aniversaris);
 }
 

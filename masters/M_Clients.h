@@ -30,7 +30,8 @@ std::array<std::string, 3> Venciments_Factura(const std::string& nif, const Data
 
 // A birthday between today and so many days from now, in this year; never with less than one day.
 bool Hi_Ha_Aniversaris(int dies);
-// At a login: takes the days of the terminal's parameter, and tells whether to warn. Raises 13 when it is no number.
+// At a login: takes the days of the terminal's parameter, and tells whether to warn. Raises 13 when it is no number,
+// 6 when it is too large a one.
 bool Toca_Avisar_Aniversaris();
 // The e-mail addresses of a list's customers, in the order of their codes, joined by semicolons.
 std::string Emails_Clients(Recordset& clients);

@@ -52,17 +52,24 @@ void Delegat_Graella::setModelData(QWidget* editor, QAbstractItemModel* model, c
   Formulari::Guardar_Event([&] { model->setData(index, escrit, Qt::EditRole); });
 }
 
-// The box is painted in the middle, and not where the style has it.
+// The box is painted in the middle, and not where the style has it. The row that waits for a new one says so.
 void Delegat_Graella::initStyleOption(QStyleOptionViewItem* opcio, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(opcio, index);
   opcio->features &= ~QStyleOptionViewItem::HasCheckIndicator;
+  if (index.column() != 0 || !Per_Estrenar(index)) return;
+  opcio->text = QStringLiteral("+");
+  opcio->features |= QStyleOptionViewItem::HasDisplay;
+  opcio->palette.setColor(QPalette::Text, opcio->palette.color(QPalette::Disabled, QPalette::Text));
+}
+
+bool Delegat_Graella::Per_Estrenar(const QModelIndex& index) const {
+  return index.row() >= model_.Files() && index.row() != model_.Fila_En_Edicio();
 }
 
 void Delegat_Graella::paint(QPainter* pintor, const QStyleOptionViewItem& opcio, const QModelIndex& index) const {
   const QVariant estat = index.data(Qt::CheckStateRole);
   QStyledItemDelegate::paint(pintor, opcio, index);
-  const bool per_estrenar = index.row() >= model_.Files() && index.row() != model_.Fila_En_Edicio();
-  if (!estat.isValid() || per_estrenar) return;
+  if (!estat.isValid() || Per_Estrenar(index)) return;
   QStyleOptionButton quadre;
   quadre.rect = Quadre(opcio.rect);
   quadre.palette = opcio.palette;

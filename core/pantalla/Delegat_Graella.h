@@ -21,5 +21,6 @@ class Delegat_Graella : public QStyledItemDelegate {
                    const QModelIndex& index) override;
 
  private:
+  bool Per_Estrenar(const QModelIndex& index) const;  // the empty row at the end
   const Model_Recordset& model_;
 };

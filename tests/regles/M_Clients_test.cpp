@@ -125,6 +125,21 @@ TEST_F(Aniversaris, need_the_name_and_the_code_of_the_customer) {
   EXPECT_FALSE(Hi_Ha_Aniversaris(5));
 }
 
+TEST_F(Aniversaris, are_warned_of_by_the_days_of_the_terminal) {
+  Neix("B1", "#12/31/1970#");
+  EXPECT_FALSE(Toca_Avisar_Aniversaris());
+  EXPECT_EQ(sessio.Dies_Avis_Aniversaris, 0);
+  for (const auto& [dies, toca] : {std::pair("0", false), std::pair("-3", false), std::pair("1", true)}) {
+    sessio.Parametres["P_Avis_Aniversaris_Dies"] = dies;
+    EXPECT_EQ(Toca_Avisar_Aniversaris(), toca) << dies;
+  }
+  EXPECT_EQ(sessio.Dies_Avis_Aniversaris, 1);
+  sessio.Parametres["P_Avis_Aniversaris_Dies"] = "un";
+  EXPECT_EQ(Error_De([] { Toca_Avisar_Aniversaris(); }).Numero(), errors::tipus);
+  sessio.Parametres["P_Avis_Aniversaris_Dies"] = "99999";
+  EXPECT_EQ(Error_De([] { Toca_Avisar_Aniversaris(); }).Numero(), errors::desbordament);
+}
+
 TEST_F(Aniversaris, are_listed_by_day_and_name_and_filtered_by_a_part_of_it) {
   Neix("B1", "#12/31/1970#");
   Neix("B2", "NULL");
