@@ -32,7 +32,9 @@ std::string F_ArticlesMC::Sentencia() const {
   return SQL_Articles({.codi = cap_article, .descripcio = cap_article});
 }
 
+// What the search form filters stays as it is.
 void F_ArticlesMC::Activar() {
+  if (Formulari_De_Nom(QStringLiteral("F_CERCA")) != nullptr) return;
   const auto* cerca = static_cast<F_ArticlesSelC*>(Carregar_Amagat(QStringLiteral("F_ARTICLESSELC")));
   sessio.Posicio_Guardada = static_cast<std::int32_t>(rs_.AbsolutePosition());
   rs_.Reopen(SQL_Articles(cerca->Criteris()));
