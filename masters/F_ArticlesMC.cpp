@@ -36,8 +36,15 @@ std::string F_ArticlesMC::Sentencia() const {
 void F_ArticlesMC::Activar() {
   if (Formulari_De_Nom(QStringLiteral("F_CERCA")) != nullptr) return;
   const auto* cerca = static_cast<F_ArticlesSelC*>(Carregar_Amagat(QStringLiteral("F_ARTICLESSELC")));
+  const std::string sentencia = SQL_Articles(cerca->Criteris());
+  // Under the same criteria the order that a header has given stays.
+  const bool els_mateixos = Sense_Ordre(rs_.Source()) == Sense_Ordre(sentencia);
   sessio.Posicio_Guardada = static_cast<std::int32_t>(rs_.AbsolutePosition());
-  rs_.Reopen(SQL_Articles(cerca->Criteris()));
+  if (els_mateixos) {
+    rs_.Requery();
+  } else {
+    rs_.Reopen(sentencia);
+  }
   Reposicionar(rs_, sessio.Posicio_Guardada - 1);
   ui_->G_ArticlesMC->Lligar(&rs_);
 }

@@ -17,14 +17,13 @@ namespace {
 constexpr int twips_per_pixel = 15;
 constexpr int alcada_fila = 24;
 
-// The statement without its order.
+}  // namespace
+
 std::string Sense_Ordre(const std::string& sentencia) {
   const QString text = QString::fromStdString(sentencia);
   const qsizetype ordre = text.indexOf(u"ORDER BY", 0, Qt::CaseInsensitive);
   return text.left(ordre).trimmed().toStdString();
 }
-
-}  // namespace
 
 Graella::Graella(QWidget* pare) : QTableView(pare), model_(new Model_Recordset(this)) {
   setModel(model_);
