@@ -79,6 +79,9 @@ void Enllac_PostgreSQL::Configurar() {
   PQsetNoticeReceiver(connexio_.get(), Callar, nullptr);
   Executar_Directe(
       "SET DateStyle = 'ISO, YMD'; SET extra_float_digits = 1; SET standard_conforming_strings = on; "
+      // The database of an office fits in the server's memory, and a statement is prepared once for all its values: an
+      // index is as near as the next page, and no plan is made again for each use.
+      "SET random_page_cost = 1; SET plan_cache_mode = force_generic_plan; "
       "SET client_min_messages = warning; SET lock_timeout = " +
       std::to_string(espera_));
 }
