@@ -3,7 +3,7 @@
 
 #include "bench/Mesura.h"
 #include "core/M_Funcions_Comuns.h"
-#include "sales/M_Linies.h"
+#include "documents/M_Linies.h"
 
 namespace {
 

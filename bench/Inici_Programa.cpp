@@ -10,7 +10,7 @@
 #include "bench/Inici_Programa.h"
 #include "bench/Mesura.h"
 #include "bench/Primera_Pintura.h"
-#include "core/pantalla/Aplicacio.h"
+#include "shell/Aplicacio.h"
 #include "tests/regles/Installacio_Prova.h"
 
 namespace {

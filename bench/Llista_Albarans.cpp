@@ -7,8 +7,8 @@
 #include "bench/Base_Nua.h"
 #include "bench/Fila_Nua.h"
 #include "bench/Mesura.h"
-#include "core/pantalla/Graella.h"
-#include "sales/M_Consultes.h"
+#include "core/controls/Graella.h"
+#include "documents/M_Consultes.h"
 #include "tests/regles/Installacio_Prova.h"
 
 namespace {

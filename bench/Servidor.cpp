@@ -6,7 +6,7 @@
 #include "bench/Nota_Oberta.h"
 #include "core/dades/Motor.h"
 #include "core/dades/Numeros.h"
-#include "sales/M_Consultes.h"
+#include "documents/M_Consultes.h"
 #include "tests/regles/Installacio_Prova.h"
 
 namespace {

@@ -14,8 +14,8 @@
 
 #include "bench/Mesura.h"
 #include "bench/Nota_Oberta.h"
-#include "core/M_Inici.h"
-#include "core/M_Locks.h"
+#include "session/M_Inici.h"
+#include "session/M_Locks.h"
 #include "tests/regles/Installacio_Prova.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "masters/F_Article.h"
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/pantalla/Controls.h"
+#include "core/controls/Controls.h"
 #include "masters/M_Articles.h"
 #include "masters/M_Families.h"
 #include "masters/M_IVAs.h"

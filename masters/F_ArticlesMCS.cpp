@@ -1,7 +1,7 @@
 #include "masters/F_ArticlesMCS.h"
 
-#include "core/pantalla/Aparenca.h"
-#include "core/pantalla/Control_Interface.h"
+#include "core/formularis/Aparenca.h"
+#include "core/formularis/Control_Interface.h"
 #include "masters/F_Columnes_Articles.h"
 #include "masters/M_Articles.h"
 #include "ui_F_ArticlesMCS.h"

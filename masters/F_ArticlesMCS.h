@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "core/pantalla/Llista.h"
+#include "core/menes/Llista.h"
 
 namespace Ui {
 class F_ArticlesMCS;

@@ -1,8 +1,8 @@
 #include "masters/F_ArticlesSelC.h"
 
-#include "core/pantalla/Aparenca.h"
-#include "core/pantalla/Control_Interface.h"
-#include "core/pantalla/Controls.h"
+#include "core/controls/Controls.h"
+#include "core/formularis/Aparenca.h"
+#include "core/formularis/Control_Interface.h"
 #include "ui_F_ArticlesSelC.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "core/pantalla/Formulari.h"
+#include "core/formularis/Formulari.h"
 #include "masters/M_Articles.h"
 
 namespace Ui {

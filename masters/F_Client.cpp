@@ -1,6 +1,6 @@
 #include "masters/F_Client.h"
 
-#include "core/pantalla/Controls.h"
+#include "core/controls/Controls.h"
 #include "masters/M_Clients.h"
 #include "masters/M_Venciments.h"
 #include "ui_F_Client.h"

@@ -4,7 +4,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 
-#include "core/pantalla/Aparenca.h"
+#include "core/formularis/Aparenca.h"
 #include "masters/M_Clients.h"
 #include "ui_F_ClientsM.h"
 

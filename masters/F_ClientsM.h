@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "core/pantalla/Llista_Mestra.h"
+#include "core/menes/Llista_Mestra.h"
 
 namespace Ui {
 class F_ClientsM;

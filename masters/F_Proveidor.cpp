@@ -1,6 +1,6 @@
 #include "masters/F_Proveidor.h"
 
-#include "core/pantalla/Controls.h"
+#include "core/controls/Controls.h"
 #include "masters/M_Proveidors.h"
 #include "masters/M_Venciments.h"
 #include "ui_F_Proveidor.h"

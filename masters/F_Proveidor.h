@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "core/pantalla/Fitxa.h"
+#include "core/menes/Fitxa.h"
 
 namespace Ui {
 class F_Proveidor;

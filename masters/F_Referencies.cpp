@@ -1,7 +1,7 @@
 #include "masters/F_Referencies.h"
 
-#include "core/pantalla/Control_Interface.h"
-#include "core/pantalla/Taula_Referencia.h"
+#include "core/formularis/Control_Interface.h"
+#include "core/menes/Taula_Referencia.h"
 #include "masters/M_CP.h"
 #include "masters/M_Families.h"
 #include "masters/M_IVAs.h"

@@ -7,9 +7,9 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Mestres.h"
-#include "core/M_Usuaris.h"
 #include "core/dades/Dates.h"
 #include "core/dades/Numeros.h"
+#include "session/M_Usuaris.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Mestres.h"
-#include "core/M_Usuaris.h"
+#include "session/M_Usuaris.h"
 
 namespace {
 constexpr Lloc clau = referencia_proveidors.clau;

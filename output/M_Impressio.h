@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "sales/Documents.h"
+#include "documents/Documents.h"
 
 // The local table that the lines of this kind are printed from.
 std::string Taula_Impressio(const Tipus_Document& tipus);

@@ -1,7 +1,7 @@
 // The editor of delivery notes.
 #pragma once
 
-#include "sales/F_Editor_Document.h"
+#include "documents/F_Editor_Document.h"
 
 namespace Ui {
 class F_Albara;

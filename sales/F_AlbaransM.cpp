@@ -1,10 +1,10 @@
 #include "sales/F_AlbaransM.h"
 
-#include "core/pantalla/Aparenca.h"
-#include "core/pantalla/Control_Interface.h"
+#include "core/formularis/Aparenca.h"
+#include "core/formularis/Control_Interface.h"
+#include "documents/M_Consultes.h"
 #include "sales/F_AlbaransS.h"
 #include "sales/M_Albarans.h"
-#include "sales/M_Consultes.h"
 #include "ui_F_AlbaransM.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "sales/F_Llista_Documents.h"
+#include "documents/F_Llista_Documents.h"
 
 namespace Ui {
 class F_AlbaransM;

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "sales/F_Cerca_Document.h"
+#include "documents/F_Cerca_Document.h"
 
 namespace Ui {
 class F_AlbaransS;

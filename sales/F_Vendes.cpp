@@ -1,6 +1,6 @@
 #include "sales/F_Vendes.h"
 
-#include "core/pantalla/Control_Interface.h"
+#include "core/formularis/Control_Interface.h"
 #include "sales/F_Albara.h"
 #include "sales/F_AlbaransM.h"
 #include "sales/F_AlbaransS.h"

@@ -1,12 +1,12 @@
 #include "sales/M_Albarans.h"
 
 #include "core/M_Funcions_Comuns.h"
+#include "documents/M_Linies.h"
+#include "documents/M_Peu.h"
 #include "masters/M_Articles.h"
 #include "masters/M_IVAs.h"
 #include "payments/M_Pagaments.h"
 #include "sales/M_Comandes.h"
-#include "sales/M_Linies.h"
-#include "sales/M_Peu.h"
 #include "stock/M_Magatzems.h"
 
 namespace {

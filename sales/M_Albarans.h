@@ -2,7 +2,7 @@
 // ALBARAPEU; through their modules STOCK, MOVIMIENTOS, COMANDALIN, COMANDACAP, PRESSUPOSTLIN, PRESSUPOSTCAP.
 #pragma once
 
-#include "sales/Documents.h"
+#include "documents/Documents.h"
 
 std::int64_t Crear_Capcalera_Albara();
 std::int64_t Seguent_Numero_Albara(const std::string& empresa);

@@ -1,7 +1,7 @@
 #include "sales/M_Comandes.h"
 
 #include "core/M_Funcions_Comuns.h"
-#include "sales/Documents.h"
+#include "documents/Documents.h"
 
 void Servir_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::int16_t linia, double unitats) {
   Recordset rs("SELECT * FROM COMANDALIN" + Condicio_Document(tipus_comanda, tipus_comanda.lin, numero, empresa) +

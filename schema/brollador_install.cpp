@@ -6,10 +6,10 @@
 #include <map>
 #include <string>
 
-#include "core/M_Inici.h"
 #include "core/dades/Error_Brollador.h"
 #include "schema/Demostracio.h"
 #include "schema/Installador.h"
+#include "session/M_Inici.h"
 
 namespace {
 

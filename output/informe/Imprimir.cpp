@@ -1,6 +1,5 @@
 #include "output/informe/Imprimir.h"
 
-#include "core/M_Empresa.h"
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
 #include "masters/M_Clients.h"
@@ -8,6 +7,7 @@
 #include "output/M_Impressio.h"
 #include "output/informe/Informe.h"
 #include "output/informe/Sortida.h"
+#include "session/M_Empresa.h"
 
 namespace {
 

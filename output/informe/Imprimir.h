@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "sales/Documents.h"
+#include "documents/Documents.h"
 
 namespace impressio {
 constexpr int dialeg = 0;

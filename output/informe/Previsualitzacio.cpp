@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/pantalla/Aparenca.h"
-#include "core/pantalla/Formulari.h"
+#include "core/formularis/Aparenca.h"
+#include "core/formularis/Formulari.h"
 #include "output/informe/Informe.h"
 #include "output/informe/Sortida.h"
 

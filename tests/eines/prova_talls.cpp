@@ -14,8 +14,8 @@
 #include <string>
 #include <thread>
 
-#include "core/M_Inici.h"
 #include "core/dades/Error_Brollador.h"
+#include "session/M_Inici.h"
 #include "tests/eines/talls/Concordanca.h"
 #include "tests/eines/talls/Magatzem_De_Prova.h"
 #include "tests/eines/talls/Oficinista.h"

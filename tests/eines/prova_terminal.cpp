@@ -6,7 +6,7 @@
 
 #include <cstdio>
 
-#include "core/pantalla/Aplicacio.h"
+#include "shell/Aplicacio.h"
 #include "tests/eines/terminal/Ganxos.h"
 #include "tests/eines/terminal/Ordres.h"
 #include "tests/eines/terminal/Servidor.h"

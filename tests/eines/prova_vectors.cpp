@@ -9,10 +9,10 @@
 #include <sstream>
 
 #include "core/dades/Numeros.h"
+#include "documents/M_Linies.h"
+#include "documents/M_Peu.h"
 #include "masters/M_Articles.h"
 #include "masters/M_Clients.h"
-#include "sales/M_Linies.h"
-#include "sales/M_Peu.h"
 #include "stock/M_Magatzems.h"
 #include "tests/regles/Installacio_Prova.h"
 

@@ -4,8 +4,8 @@
 #include <QFile>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/pantalla/Aplicacio.h"
-#include "core/pantalla/Graella.h"
+#include "core/controls/Graella.h"
+#include "shell/Aplicacio.h"
 
 namespace {
 

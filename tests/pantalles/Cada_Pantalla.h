@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <span>
 
-#include "core/pantalla/Pantalla_Qt.h"
+#include "core/formularis/Pantalla_Qt.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 // How a person comes to a screen that has something to show.

@@ -1,9 +1,9 @@
-#include "core/pantalla/Control_Interface.h"
+#include "core/formularis/Control_Interface.h"
 
 #include <QMdiArea>
 #include <QTest>
 
-#include "core/pantalla/Aplicacio.h"
+#include "shell/Aplicacio.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {

@@ -1,10 +1,10 @@
-#include "core/pantalla/Controls.h"
+#include "core/controls/Controls.h"
 
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "core/pantalla/Camps.h"
+#include "core/controls/Camps.h"
 #include "tests/pantalles/Base_Pantalles.h"
 
 namespace {

@@ -1,15 +1,15 @@
 // The return of a chosen row into the field that asked for it.
-#include "core/pantalla/Crides.h"
+#include "shell/Crides.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
 
-#include "core/F_Cerca.h"
-#include "core/pantalla/Camps.h"
-#include "core/pantalla/Controls.h"
-#include "core/pantalla/Pares.h"
+#include "core/controls/Camps.h"
+#include "core/controls/Controls.h"
+#include "shell/F_Cerca.h"
+#include "shell/Pares.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {

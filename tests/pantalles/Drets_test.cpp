@@ -1,5 +1,5 @@
 // The rights on the controls of every form.
-#include "core/pantalla/Drets.h"
+#include "shell/Drets.h"
 
 #include <QFile>
 #include <QPushButton>
@@ -7,8 +7,8 @@
 #include <QSet>
 #include <filesystem>
 
-#include "core/pantalla/Controls.h"
-#include "core/pantalla/Pares.h"
+#include "core/controls/Controls.h"
+#include "shell/Pares.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {

@@ -7,9 +7,9 @@
 #include <QMdiSubWindow>
 #include <QVBoxLayout>
 
-#include "core/F_Principal.h"
-#include "core/pantalla/Control_Interface.h"
-#include "core/pantalla/Llista.h"
+#include "core/formularis/Control_Interface.h"
+#include "core/menes/Llista.h"
+#include "shell/F_Principal.h"
 #include "tests/pantalles/Base_Pantalles.h"
 
 // Any form: fields can be put on it before or after it is shown.

@@ -1,4 +1,4 @@
-#include "core/pantalla/Graella.h"
+#include "core/controls/Graella.h"
 
 #include <QSignalSpy>
 #include <QTest>

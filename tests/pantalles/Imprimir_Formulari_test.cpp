@@ -1,5 +1,5 @@
 // A form on paper: what stands on its pages.
-#include "core/pantalla/Imprimir_Formulari.h"
+#include "shell/Imprimir_Formulari.h"
 
 #include "output/informe/Informe.h"
 #include "output/informe/Sortida.h"

@@ -1,5 +1,5 @@
 // What is remembered of windows, by user.
-#include "core/pantalla/Memoria_Pantalles.h"
+#include "core/formularis/Memoria_Pantalles.h"
 
 #include <QFile>
 #include <QMdiArea>

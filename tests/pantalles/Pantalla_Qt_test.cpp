@@ -1,4 +1,4 @@
-#include "core/pantalla/Pantalla_Qt.h"
+#include "core/formularis/Pantalla_Qt.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "core/pantalla/Instancia_Unica.h"
+#include "shell/Instancia_Unica.h"
 #include "tests/pantalles/Base_Pantalles.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <QMdiSubWindow>
 #include <QTabBar>
 
-#include "core/pantalla/Graella.h"
+#include "core/controls/Graella.h"
 #include "tests/pantalles/Cada_Pantalla.h"
 
 namespace {

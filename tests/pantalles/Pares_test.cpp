@@ -1,5 +1,5 @@
 // Parents of forms: who is disabled, who is requeried, who is created.
-#include "core/pantalla/Pares.h"
+#include "shell/Pares.h"
 
 #include <QSet>
 

@@ -1,5 +1,5 @@
 // The company chooser under the hand of a user.
-#include "core/pantalla/Selector_Empresa.h"
+#include "session/Selector_Empresa.h"
 
 #include <QPushButton>
 #include <QTableWidget>

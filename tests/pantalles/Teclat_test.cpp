@@ -1,4 +1,4 @@
-#include "core/pantalla/Teclat.h"
+#include "core/formularis/Teclat.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "core/pantalla/Formulari.h"
+#include "core/formularis/Formulari.h"
 
 namespace {
 

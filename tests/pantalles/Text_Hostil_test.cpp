@@ -8,9 +8,9 @@
 #include <QTest>
 #include <filesystem>
 
-#include "core/pantalla/Camps.h"
-#include "core/pantalla/Drets.h"
-#include "core/pantalla/Graella.h"
+#include "core/controls/Camps.h"
+#include "core/controls/Graella.h"
+#include "shell/Drets.h"
 #include "tests/pantalles/Cada_Pantalla.h"
 
 namespace {

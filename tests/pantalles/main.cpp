@@ -1,7 +1,7 @@
 // Tests of the screens' pieces: the program's own application object, without a window on a display.
 #include <gtest/gtest.h>
 
-#include "core/pantalla/Aplicacio.h"
+#include "shell/Aplicacio.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -3,8 +3,8 @@
 
 #include <cmath>
 
-#include "core/M_Inici.h"
-#include "sales/M_Peu.h"
+#include "documents/M_Peu.h"
+#include "session/M_Inici.h"
 #include "tests/regles/Base.h"
 
 class Demostracio : public testing::Test {

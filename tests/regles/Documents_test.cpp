@@ -1,4 +1,4 @@
-#include "sales/Documents.h"
+#include "documents/Documents.h"
 
 #include "tests/regles/Base.h"
 

@@ -19,8 +19,8 @@
 #include <vector>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/M_Inici.h"
 #include "schema/Installador.h"
+#include "session/M_Inici.h"
 #include "tests/servidor/Base_Servidor.h"
 
 // An open document form: what rules wrote on it.

@@ -7,8 +7,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "core/M_Usuaris.h"
 #include "schema/Textos.h"
+#include "session/M_Usuaris.h"
 #include "tests/regles/Base.h"
 
 namespace fs = std::filesystem;

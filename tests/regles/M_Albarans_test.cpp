@@ -1,6 +1,6 @@
 #include "sales/M_Albarans.h"
 
-#include "sales/M_Peu.h"
+#include "documents/M_Peu.h"
 #include "tests/regles/Base.h"
 
 class M_Albarans : public Base_Dades {

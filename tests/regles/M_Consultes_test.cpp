@@ -1,4 +1,4 @@
-#include "sales/M_Consultes.h"
+#include "documents/M_Consultes.h"
 
 #include "tests/regles/Base.h"
 

@@ -1,4 +1,4 @@
-#include "core/M_Empresa.h"
+#include "session/M_Empresa.h"
 
 #include "tests/regles/Base.h"
 

@@ -1,4 +1,4 @@
-#include "core/M_Idiomes.h"
+#include "session/M_Idiomes.h"
 
 #include "tests/regles/Base.h"
 

@@ -1,4 +1,4 @@
-#include "core/M_Inici.h"
+#include "session/M_Inici.h"
 
 #include <fstream>
 

@@ -1,4 +1,4 @@
-#include "sales/M_Linies.h"
+#include "documents/M_Linies.h"
 
 #include "tests/regles/Base.h"
 

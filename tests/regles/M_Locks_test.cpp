@@ -1,6 +1,6 @@
-#include "core/M_Locks.h"
+#include "session/M_Locks.h"
 
-#include "sales/Documents.h"
+#include "documents/Documents.h"
 #include "tests/regles/Base.h"
 
 class M_Locks : public Base_Dades {

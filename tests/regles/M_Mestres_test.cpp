@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 
-#include "core/M_Empresa.h"
 #include "core/M_Funcions_Comuns.h"
 #include "masters/M_Articles.h"
 #include "masters/M_CP.h"
@@ -16,6 +15,7 @@
 #include "masters/M_Proveidors.h"
 #include "masters/M_Subfamilies.h"
 #include "masters/M_Venciments.h"
+#include "session/M_Empresa.h"
 #include "stock/M_Magatzems.h"
 #include "tests/regles/Base.h"
 

@@ -1,4 +1,4 @@
-#include "sales/M_Peu.h"
+#include "documents/M_Peu.h"
 
 #include "tests/regles/Base.h"
 

@@ -1,6 +1,6 @@
-#include "core/M_Usuaris.h"
+#include "session/M_Usuaris.h"
 
-#include "core/M_Idiomes.h"
+#include "session/M_Idiomes.h"
 #include "tests/regles/Base.h"
 
 class M_Usuaris : public Base_Dades {

@@ -4,7 +4,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
-#include "sales/M_Peu.h"
+#include "documents/M_Peu.h"
 #include "tests/eines/talls/Magatzem_De_Prova.h"
 
 namespace talls {

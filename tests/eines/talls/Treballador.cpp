@@ -4,8 +4,8 @@
 #include <random>
 
 #include "core/M_Funcions_Comuns.h"
+#include "documents/M_Peu.h"
 #include "sales/M_Albarans.h"
-#include "sales/M_Peu.h"
 #include "tests/eines/talls/Magatzem_De_Prova.h"
 
 namespace talls {

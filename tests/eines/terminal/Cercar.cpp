@@ -5,9 +5,9 @@
 #include <QLineEdit>
 #include <QMenu>
 
-#include "core/pantalla/Control_Interface.h"
-#include "core/pantalla/Controls.h"
-#include "core/pantalla/Formulari.h"
+#include "core/controls/Controls.h"
+#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formulari.h"
 
 namespace {
 

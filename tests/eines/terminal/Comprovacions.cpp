@@ -9,8 +9,8 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
-#include "core/pantalla/Controls.h"
-#include "core/pantalla/Graella.h"
+#include "core/controls/Controls.h"
+#include "core/controls/Graella.h"
 #include "tests/eines/terminal/Cercar.h"
 #include "tests/eines/terminal/Ma.h"
 #include "tests/eines/terminal/Ordres.h"

@@ -4,9 +4,9 @@
 #include <deque>
 
 #include "core/Sessio.h"
-#include "core/pantalla/Aplicacio.h"
-#include "core/pantalla/Pantalla_Qt.h"
+#include "core/formularis/Pantalla_Qt.h"
 #include "output/informe/Sortida.h"
+#include "shell/Aplicacio.h"
 #include "tests/eines/guio/Error_Guio.h"
 #include "tests/eines/terminal/Servidor.h"
 

@@ -17,8 +17,8 @@
 #include <map>
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/controls/Controls.h"
 #include "core/dades/Numeros.h"
-#include "core/pantalla/Controls.h"
 #include "tests/eines/terminal/Cercar.h"
 #include "tests/eines/terminal/Ganxos.h"
 #include "tests/eines/terminal/Ma.h"

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 
-#include "core/pantalla/Graella.h"
+#include "core/controls/Graella.h"
 #include "tests/eines/terminal/Cercar.h"
 #include "tests/eines/terminal/Ma.h"
 #include "tests/eines/terminal/Ordres.h"

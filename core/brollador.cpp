@@ -1,5 +1,0 @@
-#include "core/pantalla/Aplicacio.h"
-
-int main(int argc, char** argv) {
-  return Executar_Brollador(argc, argv);
-}

@@ -1,0 +1,138 @@
+#include "core/formularis/Pantalla_Qt.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "core/M_Funcions_Comuns.h"
+#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formulari.h"
+#include "session/Selector_Empresa.h"
+#include "shell/F_Principal.h"
+
+std::function<Resposta(const QString&, int, const QString&)> Pantalla_Qt::Contestador;
+std::function<std::string(const std::string&, int)> Pantalla_Qt::Triador_Empresa;
+
+namespace {
+
+QString Qt_Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QMessageBox::Icon Icona_De(int estil) {
+  switch (estil & 0xF0) {
+    case estil::critic:
+      return QMessageBox::Critical;
+    case estil::pregunta:
+      return QMessageBox::Question;
+    case estil::exclamacio:
+      return QMessageBox::Warning;
+    case estil::informacio:
+      return QMessageBox::Information;
+    default:
+      return (estil & 0x0F) == estil::simple ? QMessageBox::NoIcon : QMessageBox::Question;
+  }
+}
+
+bool Es_Entrada_De_Usuari(QEvent::Type tipus) {
+  switch (tipus) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+Pantalla_Qt::Pantalla_Qt() {
+  qApp->installEventFilter(this);
+}
+
+Resposta Pantalla_Qt::Caixa(const std::string& text, int estil, const std::string& titol) {
+  const QString escrit = Qt_Text(text);
+  if (Contestador) return Contestador(escrit, estil, Qt_Text(titol));
+  QMessageBox caixa(Icona_De(estil), Qt_Text(titol), escrit, QMessageBox::NoButton, QApplication::activeWindow());
+  caixa.setTextFormat(Qt::PlainText);
+  const bool si_no = (estil & 0x0F) == estil::si_no;
+  const bool pregunta = si_no || (estil & 0x0F) == estil::ok_cancel;
+  const auto boto = [&](const char* catala, const char* castella, const char* angles, QMessageBox::ButtonRole paper) {
+    return caixa.addButton(Qt_Text(Missatge(catala, castella, angles)), paper);
+  };
+  const auto* afirma = si_no ? boto("&Sí", "&Sí", "&Yes", QMessageBox::YesRole)
+                             : boto("D'&acord", "&Aceptar", "&OK", QMessageBox::AcceptRole);
+  QPushButton* nega = nullptr;
+  if (pregunta) {
+    nega = si_no ? boto("&No", "&No", "&No", QMessageBox::NoRole)
+                 : boto("&Cancel·lar", "&Cancelar", "&Cancel", QMessageBox::RejectRole);
+    caixa.setEscapeButton(nega);
+  }
+  QApplication::setOverrideCursor(Qt::ArrowCursor);
+  caixa.exec();
+  QApplication::restoreOverrideCursor();
+  const bool dit_que_si = caixa.clickedButton() == afirma;
+  if (si_no) return dit_que_si ? Resposta::Si : Resposta::No;
+  return dit_que_si || !pregunta ? Resposta::Ok : Resposta::Cancel;
+}
+
+bool Pantalla_Qt::Formulari_Carregat(std::string_view nom) const {
+  return Formulari_De_Nom(Qt_Text(nom)) != nullptr;
+}
+
+Document_Obert* Pantalla_Qt::Document(std::string_view nom_formulari) {
+  Formulari* formulari = Formulari_De_Nom(Qt_Text(nom_formulari));
+  return formulari == nullptr ? nullptr : formulari->Document();
+}
+
+// Lets the windows paint; what the user does meanwhile waits, or is swallowed while the input is blocked.
+void Pantalla_Qt::Processar_Events() {
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void Pantalla_Qt::Bloquejar_Entrada() {
+  bloquejada_ = true;
+}
+
+// What was typed during the work is taken out of the queue while it still counts for nothing.
+void Pantalla_Qt::Alliberar_Entrada() {
+  if (!bloquejada_) return;
+  QCoreApplication::processEvents();
+  bloquejada_ = false;
+}
+
+bool Pantalla_Qt::eventFilter(QObject* objecte, QEvent* event) {
+  if (bloquejada_ && Es_Entrada_De_Usuari(event->type())) return true;
+  return QObject::eventFilter(objecte, event);
+}
+
+std::string Pantalla_Qt::Triar_Empresa(const std::string& actual, int idioma) {
+  if (Triador_Empresa) return Triador_Empresa(actual, idioma);
+  QApplication::setOverrideCursor(Qt::ArrowCursor);
+  std::string triada = Selector_Empresa(actual).Triar();
+  QApplication::restoreOverrideCursor();
+  return triada;
+}
+
+void Pantalla_Qt::Menu_Habilitat(std::string_view entrada, bool habilitat) {
+  F_Principal::Unica()->Habilitar(Qt_Text(entrada), habilitat);
+}
+void Pantalla_Qt::Menu_Visible(std::string_view entrada, bool visible) {
+  F_Principal::Unica()->Accio(Qt_Text(entrada))->setVisible(visible);
+}
+void Pantalla_Qt::Menu_Marcat(std::string_view entrada, bool marcat) {
+  F_Principal::Unica()->Accio(Qt_Text(entrada))->setChecked(marcat);
+}
+void Pantalla_Qt::Menu_Text(std::string_view entrada, const std::string& text) {
+  F_Principal::Unica()->Accio(Qt_Text(entrada))->setText(Qt_Text(text).replace(u'&', QStringLiteral("&&")));
+}

@@ -1,0 +1,125 @@
+#include "core/formularis/Traduccio.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
+#include <QTabWidget>
+
+#include "core/controls/Controls.h"
+#include "core/controls/Graella.h"
+#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formulari.h"
+#include "session/M_Idiomes.h"
+#include "shell/F_Principal.h"
+
+namespace {
+
+constexpr int propietat_inexistent = 438;
+
+struct Adreca {
+  QString control;
+  int index = -1;
+};
+
+// L_*.*, G_*.*, SST_*.* and OPT*.* name an element of a control.
+Adreca Llegir_Adreca(const QString& text) {
+  static const QRegularExpression element(QStringLiteral("^((?:L_|G_|SST_|OPT)[^.]*)\\.(\\d+)$"),
+                                          QRegularExpression::CaseInsensitiveOption);
+  const auto trobat = element.match(text);
+  if (!trobat.hasMatch()) return {text, -1};
+  return {trobat.captured(1), trobat.captured(2).toInt()};
+}
+
+QObject* Cercar_Control(QWidget* finestra, const QString& nom) {
+  if (finestra->objectName().compare(nom, Qt::CaseInsensitive) == 0) return finestra;
+  for (QObject* fill : finestra->findChildren<QObject*>()) {
+    if (fill->objectName().compare(nom, Qt::CaseInsensitive) == 0) return fill;
+  }
+  return nullptr;
+}
+
+// Each returns false when the control has no such property.
+bool Posar_Titol(QObject* control, const QString& text, int index) {
+  if (auto* graella = qobject_cast<Graella*>(control); graella != nullptr && index >= 0) {
+    graella->Titol_Columna(index, text);
+  } else if (auto* opcions = qobject_cast<Grup_Opcions*>(control); opcions != nullptr && index >= 0) {
+    opcions->Titol_Opcio(index, text);
+  } else if (auto* accio = qobject_cast<QAction*>(control)) {
+    accio->setText(text);
+  } else if (auto* menu = qobject_cast<QMenu*>(control)) {
+    menu->setTitle(text);
+  } else if (auto* etiqueta = qobject_cast<QLabel*>(control)) {
+    etiqueta->setText(text);
+  } else if (auto* boto = qobject_cast<QAbstractButton*>(control)) {
+    boto->setText(text);
+  } else if (auto* grup = qobject_cast<QGroupBox*>(control)) {
+    grup->setTitle(text);
+  } else if (qobject_cast<Formulari*>(control) != nullptr || qobject_cast<F_Principal*>(control) != nullptr) {
+    static_cast<QWidget*>(control)->setWindowTitle(text);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool Posar_Text(QObject* control, const QString& text) {
+  if (auto* camp = qobject_cast<QLineEdit*>(control)) {
+    camp->setText(text);
+  } else if (auto* llarg = qobject_cast<QPlainTextEdit*>(control)) {
+    llarg->setPlainText(text);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool Posar_Pestanya(QObject* control, const QString& text, int index) {
+  auto* pestanyes = qobject_cast<QTabWidget*>(control);
+  if (pestanyes == nullptr || index < 0) return false;
+  pestanyes->setTabText(index, text);
+  return true;
+}
+
+bool Posar_Ajuda(QObject* control, const QString& text) {
+  if (auto* accio = qobject_cast<QAction*>(control)) {
+    accio->setToolTip(text);
+  } else if (auto* widget = qobject_cast<QWidget*>(control)) {
+    widget->setToolTip(text);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool Posar_Propietat(QObject* control, const QString& propietat, const QString& text, int index) {
+  if (propietat == u"CAPTION") return Posar_Titol(control, text, index);
+  if (propietat == u"TEXT") return Posar_Text(control, text);
+  if (propietat == u"TABCAPTION") return Posar_Pestanya(control, text, index);
+  if (propietat == u"TOOLTIPTEXT") return Posar_Ajuda(control, text);
+  return true;  // a property that the system does not know is no text of a control
+}
+
+QWidget* Finestra_De_Nom(const QString& nom) {
+  if (nom == u"F_PRINCIPAL") return F_Principal::Unica();
+  return Formulari_De_Nom(nom);
+}
+
+}  // namespace
+
+void Traduir_Formulari(const QString& nom) {
+  QWidget* finestra = Finestra_De_Nom(nom.toUpper());
+  if (finestra == nullptr) return;
+  for (const auto& fila : Textos_De(nom.toUpper().toStdString())) {
+    const Adreca adreca = Llegir_Adreca(QString::fromStdString(fila.control));
+    QObject* control = Cercar_Control(finestra, adreca.control);
+    if (control == nullptr) continue;
+    const QString propietat = QString::fromStdString(fila.propietat).toUpper();
+    if (Posar_Propietat(control, propietat, QString::fromStdString(fila.text), adreca.index)) continue;
+    throw Error_Brollador(propietat_inexistent, "Traduir_Formulari", fila.control + ": " + fila.propietat);
+  }
+}

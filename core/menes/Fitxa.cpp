@@ -1,0 +1,195 @@
+#include "core/menes/Fitxa.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <algorithm>
+
+#include "core/M_Funcions_Comuns.h"
+#include "core/controls/Camps.h"
+#include "core/formularis/Aparenca.h"
+#include "core/formularis/Control_Interface.h"
+#include "masters/M_CP.h"
+
+Fitxa::Fitxa(const QString& nom, std::string taula) : Formulari(nom), taula_(std::move(taula)) {}
+
+// ---- What a screen tells ----------------------------------------------------------------------------------------
+
+void Fitxa::Exigir(const QWidget* camp, Exigencia exigencia) {
+  exigencies_[camp] = std::move(exigencia);
+}
+
+void Fitxa::Exigir_Lliure(QLineEdit* camp, bool (*existeix)(const std::string&), void (*avis)()) {
+  const auto admet = [this, camp, existeix] {
+    const QString propi = QString::fromStdString(rs_[camp->objectName().mid(4).toStdString()].Text());
+    return camp->text().compare(propi, Qt::CaseInsensitive) == 0 || !existeix(camp->text().toStdString());
+  };
+  Exigir(camp, {admet, avis});
+}
+
+void Fitxa::En_Deixar(QWidget* camp, std::function<void()> rutina) {
+  en_deixar_[camp].push_back(std::move(rutina));
+}
+
+void Fitxa::Descriure(QLineEdit* codi, QLineEdit* descripcio, const Referencia& referencia) {
+  descripcions_.push_back({codi, descripcio, referencia, {}});
+}
+
+void Fitxa::Seguir_CP(QLineEdit* cp, QLineEdit* localitat) {
+  auto recordat = std::make_shared<QString>();
+  En_Entrar(cp, [cp, recordat] { *recordat = cp->text(); });
+  En_Deixar(cp, [cp, localitat, recordat] {
+    if (cp->text().isEmpty()) {
+      localitat->clear();
+    } else if (cp->text() != *recordat || localitat->text().isEmpty()) {
+      localitat->setText(QString::fromStdString(Localitat_CP(cp->text().toStdString())));
+    }
+  });
+}
+
+void Fitxa::Boto_Sortir(QPushButton* boto) {
+  Dibuixar(boto, Dibuix::Sortir);
+  connect(boto, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
+}
+
+void Fitxa::Afegir_Fila(Recordset& fila, const std::string& taula, const std::string& sentencia) {
+  fila.Unique_Table(taula);
+  fila.Open(sentencia, sessio.Connexio_Comuna, Bloqueig::Pessimista);
+  files_.push_back(&fila);
+  for (Lligam& camp : Lligams_De(*this, fila)) camps_.push_back(std::move(camp));
+}
+
+// ---- Showing ----------------------------------------------------------------------------------------------------
+
+// Raises 80040E38 when the row is there no more.
+void Fitxa::Carregar() {
+  Afegir_Fila(rs_, taula_, Sentencia());
+  if (rs_.RecordCount() == 0) Llancar_Error(errors::concurrencia, Nom().toStdString());
+  Abans_De_Mostrar();
+  Mostrar_Fila();
+  for (Lligam& camp : camps_) camp.En_Canviar([this, &camp] { Deixar(camp); });
+  for (Descripcio& descripcio : descripcions_) {
+    En_Sortir(descripcio.text, [this, &descripcio] { Guardar_Event([&] { Buscar_Codi(descripcio); }); });
+  }
+}
+
+void Fitxa::Mostrar_Fila() {
+  for (Lligam& camp : camps_) camp.Mostrar();
+  Mostrar_Descripcions();
+  Mostrar_Altres();
+}
+
+// A code is looked up when it is another one.
+void Fitxa::Mostrar_Descripcions() {
+  for (Descripcio& descripcio : descripcions_) {
+    const QString codi = descripcio.codi->text();
+    if (codi == descripcio.descrit && !codi.isNull()) continue;
+    descripcio.descrit = codi;
+    descripcio.text->setText(
+        codi.isEmpty() ? QString() : QString::fromStdString(Descripcio_De(descripcio.referencia, codi.toStdString())));
+    descripcio.text->setCursorPosition(0);
+    descripcio.text->setModified(false);
+  }
+}
+
+// The first time, the first field that can be typed in.
+void Fitxa::Activar() {
+  if (std::exchange(vista_, true)) return;
+  for (QWidget* control = nextInFocusChain(); control != this; control = control->nextInFocusChain()) {
+    if (Camp_De_Control(control) != nullptr && control->isEnabled()) return Posar_Focus(control);
+  }
+}
+
+Lligam* Fitxa::Camp_De_Control(const QWidget* control) {
+  const auto camp =
+      std::find_if(camps_.begin(), camps_.end(), [&](const Lligam& que) { return que.Control() == control; });
+  return camp == camps_.end() ? nullptr : &*camp;
+}
+
+// ---- Saving -----------------------------------------------------------------------------------------------------
+
+bool Fitxa::Te_Canvis() const {
+  return std::any_of(camps_.begin(), camps_.end(), [](const Lligam& camp) { return camp.Canviat(); });
+}
+
+bool Fitxa::Admet(const Lligam& camp) const {
+  const auto exigencia = exigencies_.find(camp.Control());
+  return exigencia == exigencies_.end() || !camp.Canviat() || exigencia->second.admet();
+}
+
+// Text that is not saved stays in its field, which keeps the focus, unless the user goes to the exit. A choice that is
+// not saved is taken back.
+void Fitxa::Deixar(Lligam& camp) {
+  if (!rs_.State() || rs_.RecordCount() == 0) return;
+  bool desat = false;
+  Guardar_Event([&] {
+    if (!Admet(camp)) return exigencies_.at(camp.Control()).avis();
+    for (const auto& rutina : en_deixar_[camp.Control()]) rutina();
+    if (Te_Canvis()) Desar();
+    desat = true;
+  });
+  if (rs_.RecordCount() == 0) return Descarregar_Formulari(Nom());
+  if (desat || !camp.Canviat()) return;
+  if (camp.Es_De_Text()) Retenir_Focus(camp.Control());
+  if (!camp.Es_De_Text() || !Focus_Retingut()) camp.Mostrar();
+}
+
+// What fails is not left pending.
+void Fitxa::Desar() {
+  try {
+    Escriure();
+  } catch (const Error_Brollador& error) {
+    Recuperar(error);
+    throw;
+  }
+  Mostrar_Fila();
+  Aplicar_Drets();
+}
+
+void Fitxa::Escriure() {
+  Transaccio transaccio;
+  for (const Lligam& camp : camps_) {
+    if (camp.Canviat() && Admet(camp)) camp.Posar();
+  }
+  Abans_De_Desar();
+  for (Recordset* fila : files_) {
+    if (fila->EditMode() != Edicio::Cap) fila->Update();
+  }
+  transaccio.Confirmar();
+}
+
+// After a change by another terminal the row is read and shown again.
+void Fitxa::Recuperar(const Error_Brollador& error) {
+  Desfer_Transaccio();
+  for (Recordset* fila : files_) fila->CancelUpdate();
+  if (error.Numero() != errors::concurrencia) return;
+  rs_.Reopen(Sentencia());
+  if (rs_.RecordCount() > 0) Mostrar_Fila();
+}
+
+// A description that was typed finds its code, which is saved; one that is nobody's goes back.
+void Fitxa::Buscar_Codi(Descripcio& descripcio) {
+  if (!descripcio.text->isModified()) return;
+  const QString text = descripcio.text->text().trimmed();
+  const QString codi =
+      text.isEmpty() ? QString() : QString::fromStdString(Codi_De(descripcio.referencia, text.toStdString()));
+  descripcio.descrit = QString();
+  if (text.isEmpty() || !codi.isEmpty()) descripcio.codi->setText(codi);
+  if (Te_Canvis()) Desar();
+  Mostrar_Descripcions();
+}
+
+void Fitxa::keyPressEvent(QKeyEvent* event) {
+  Lligam* camp = event->key() == Qt::Key_Escape ? Camp_De_Control(focusWidget()) : nullptr;
+  if (camp == nullptr || !camp->Canviat()) return Formulari::keyPressEvent(event);
+  camp->Mostrar();
+  Posar_Focus(camp->Control());
+}
+
+// What was typed and never left is saved on closing as on leaving, or given up when it is refused.
+void Fitxa::Descarregar() {
+  for (Lligam& camp : camps_) {
+    if (rs_.RecordCount() > 0 && camp.Canviat()) Deixar(camp);
+  }
+  for (Recordset* fila : files_) fila->Close();
+}

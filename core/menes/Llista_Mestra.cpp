@@ -1,0 +1,28 @@
+#include "core/menes/Llista_Mestra.h"
+
+#include "core/formularis/Control_Interface.h"
+
+void Llista_Mestra::Obrir_Fila() {
+  const Valor codi = Graella_Llista()->Valor_Actual(mestra_.codi);
+  if (!codi.Es_Nul()) Obrir_Editor(codi.Text());
+}
+
+// A row that another terminal deleted goes from the list when its editor does not open.
+void Llista_Mestra::Obrir_Editor(const std::string& codi) {
+  const QString editor = QString::fromUtf16(mestra_.editor);
+  sessio.*mestra_.per_obrir = codi;
+  try {
+    if (Mostrar_Formulari(editor) != nullptr) Obrir_Formulari(editor);
+  } catch (const Error_Brollador& error) {
+    if (error.Numero() == errors::concurrencia) Requerir();
+    throw;
+  }
+}
+
+void Llista_Mestra::Esborrar_Fila() {
+  const Graella& graella = *Graella_Llista();
+  const Valor codi = graella.Valor_Actual(mestra_.codi);
+  if (codi.Es_Nul()) return;
+  mestra_.esborrar(codi.Text(), graella.Valor_Actual(mestra_.descripcio).Text());
+  Requerir();
+}

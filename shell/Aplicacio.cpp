@@ -1,0 +1,99 @@
+#include "shell/Aplicacio.h"
+
+#include <QMdiSubWindow>
+
+#include "core/M_Funcions_Comuns.h"
+#include "core/formularis/Aparenca.h"
+#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formulari.h"
+#include "core/formularis/Pantalla_Qt.h"
+#include "masters/F_Mestres.h"
+#include "masters/F_Referencies.h"
+#include "sales/F_Vendes.h"
+#include "session/F_Empresa.h"
+#include "session/F_EmpresesM.h"
+#include "session/F_Subinici.h"
+#include "session/F_Usuari.h"
+#include "session/F_UsuarisM.h"
+#include "session/M_Inici.h"
+#include "session/M_Usuaris.h"
+#include "shell/F_Cerca.h"
+#include "shell/F_Help.h"
+#include "shell/F_Principal.h"
+#include "shell/Instancia_Unica.h"
+
+namespace {
+
+void Mostrar_Finestres() {
+  auto* principal = new F_Principal;
+  principal->setWindowTitle(QStringLiteral("Brollador 1.27.05"));
+  principal->show();
+  Habilitar_Menus(false);
+  Mostrar_Formulari(QStringLiteral("F_SUBINICI"));
+  Traduir_Formulari(QStringLiteral("F_PRINCIPAL"));
+  Traduir_Formulari(QStringLiteral("F_SUBINICI"));
+}
+
+}  // namespace
+
+Aplicacio::Aplicacio(int& argc, char** argv) : QApplication(argc, argv) {
+  setApplicationName(QStringLiteral("Brollador"));
+  setDesktopFileName(QStringLiteral("brollador"));
+  Vestir(*this);
+}
+
+bool Aplicacio::notify(QObject* receptor, QEvent* event) {
+  try {
+    return QApplication::notify(receptor, event);
+  } catch (...) {
+    Formulari::Guardar_Event([error = std::current_exception()] { std::rethrow_exception(error); });
+    return true;
+  }
+}
+
+void Registrar_Formularis() {
+  Registrar_Formulari(QStringLiteral("F_SUBINICI"), [] { return new F_Subinici; });
+  Registrar_Formulari(QStringLiteral("F_CERCA"), [] { return new F_Cerca; });
+  Registrar_Formulari(QStringLiteral("F_HELP"), [] { return new F_Help; });
+  Registrar_Formulari(QStringLiteral("F_USUARISM"), [] { return new F_UsuarisM; });
+  Registrar_Formulari(QStringLiteral("F_USUARI"), [] { return new F_Usuari; });
+  Registrar_Formulari(QStringLiteral("F_EMPRESESM"), [] { return new F_EmpresesM; });
+  Registrar_Formulari(QStringLiteral("F_EMPRESA"), [] { return new F_Empresa; });
+  Registrar_Formularis_Mestres();
+  Registrar_Formularis_Referencia();
+  Registrar_Formularis_Venda();
+}
+
+bool Inici_Aplicacio() {
+  static Pantalla_Qt pantalla;
+  sessio.pantalla = &pantalla;
+  Registrar_Formularis();
+  Punter_Ocupat();
+  try {
+    Preparar_Inici();
+    Mostrar_Finestres();
+    Punter_Normal();
+    return true;
+  } catch (const Error_Brollador& error) {
+    Punter_Normal();
+    pantalla.Caixa(Text_Inici_Fallit(error), estil::simple);
+    return false;
+  }
+}
+
+void Acabar_Aplicacio() {
+  Descarregar_Tots();
+  Tancar_Recordsets_Informe();
+  Tancar_Connexions();
+  QCoreApplication::quit();
+}
+
+int Executar_Brollador(int argc, char** argv) {
+  Aplicacio aplicacio(argc, argv);
+  Fixar_Directoris();
+  Instancia_Unica instancia(QString::fromStdString(sessio.Dir_Dades));
+  if (!instancia.Es_La_Primera()) return 0;
+  if (!Inici_Aplicacio()) return 1;
+  QObject::connect(&instancia, &Instancia_Unica::Cridada, F_Principal::Unica(), &F_Principal::Portar_Al_Davant_Del_Tot);
+  return Aplicacio::exec();
+}
