@@ -4,7 +4,6 @@
 #include "bench/Fila_Nua.h"
 #include "bench/Mesura.h"
 #include "bench/Nota_Oberta.h"
-#include "core/dades/Motor.h"
 #include "core/dades/Numeros.h"
 #include "documents/M_Consultes.h"
 #include "tests/regles/Installacio_Prova.h"
@@ -150,7 +149,6 @@ std::vector<Figura> Mesurar_Linies() {
   Parella linies;
   std::vector<double> quarta;
   std::vector<double> quatre_centes;
-  const Motor& motor = sessio.Connexio_Comuna.motor();
   std::int64_t viatges = 0;
   for (int i = 0; i < notes; ++i) {
     const std::int64_t numero = Crear_Capcalera_Albara();
@@ -159,9 +157,9 @@ std::vector<Figura> Mesurar_Linies() {
     Nota_Oberta oberta(numero);
     for (int k = 1; k <= linies_nota; ++k) {
       const Linia_Entrada linia = Linia_Mesura(i * linies_nota + k);
-      const std::int64_t abans = motor.Viatges();
+      const std::int64_t abans = sessio.Connexio_Comuna.Viatges();
       linies.nostre.push_back(Mil_Segons([&] { oberta.Afegir(linia); }));
-      viatges = motor.Viatges() - abans;
+      viatges = sessio.Connexio_Comuna.Viatges() - abans;
       linies.nu.push_back(Mil_Segons([&] { nua.Afegir(std::to_string(numero), linia); }));
       if (k >= 3 && k <= 5) quarta.push_back(linies.nostre.back());
     }

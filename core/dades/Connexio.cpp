@@ -83,6 +83,10 @@ const Cataleg& Connexio::Taules() const {
   return motor_->Taules();
 }
 
+std::int64_t Connexio::Viatges() const {
+  return motor_ ? motor_->Viatges() : 0;
+}
+
 std::string Connexio::Comprovar_Integritat() {
   return motor().Comprovar_Integritat();
 }

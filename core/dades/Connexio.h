@@ -5,6 +5,7 @@
 // engine's transaction begins with the first write after it. A failed statement leaves the transaction usable.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -52,6 +53,9 @@ class Connexio {
 
   // Tables and columns as the dialect declares them.
   const Cataleg& Taules() const;
+  // Trips to the server since Open; always 0 with a file. What is queued travels together and counts once: two readings
+  // around a piece of work tell what it costs on a slow line.
+  std::int64_t Viatges() const;
   // Empty when the database is sound, else what is wrong with it, in the engine's words.
   std::string Comprovar_Integritat();
 

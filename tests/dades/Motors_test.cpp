@@ -158,6 +158,25 @@ TEST_F(Motors, A_row_read_to_be_written_in_a_transaction_does_not_change_under_i
   EXPECT_EQ(Un_Valor("SELECT SALDO_CLI FROM CLIENTS"), Valor(2.0));
 }
 
+TEST_F(Motors, Trips_to_the_server_are_counted_and_what_travels_together_counts_once) {
+  Client("1", "Anna");
+  const auto viatges = [this](const auto& feina) {
+    const std::int64_t abans = connexio.Viatges();
+    feina();
+    return connexio.Viatges() - abans;
+  };
+  const std::int64_t un = Proves_Al_Servidor() ? 1 : 0;
+  EXPECT_EQ(viatges([&] { Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"); }), un);
+  connexio.BeginTrans();
+  EXPECT_EQ(viatges([&] {
+              connexio.Execute_Despres("UPDATE CLIENTS SET SALDO_CLI = 1");
+              connexio.Execute_Despres("UPDATE CLIENTS SET SALDO_CLI = 2");
+            }),
+            0);
+  EXPECT_EQ(viatges([&] { connexio.CommitTrans(); }), un);
+  EXPECT_EQ(Connexio().Viatges(), 0);
+}
+
 // ---- The server goes away and comes back ----
 
 TEST_F(Motors, A_server_that_was_away_is_found_again_by_the_next_statement) {
