@@ -1,5 +1,7 @@
 #include "core/M_Mestres.h"
 
+#include <map>
+
 #include <algorithm>
 
 #include "core/M_Funcions_Comuns.h"
@@ -43,4 +45,21 @@ void Crear_Fila(const char* taula, const std::vector<std::pair<std::string_view,
   Transaccio transaccio;
   sessio.Connexio_Comuna.Afegir_Fila(taula, valors);
   transaccio.Confirmar();
+}
+
+std::string Proxim_Codi(const std::string& taula) {
+  static const std::map<std::string, std::string> columnes = {{"ARTICLES", "CODI_ART"},  {"CLIENTS", "NIF_CLI"},
+                                                              {"PROVEIDORS", "NIF_PRO"}, {"USUARIS", "CODI_USU"},
+                                                              {"FAMILIES", "CODI_FAM"},  {"EMPRESES", "NIF_EMP"}};
+  const std::string& columna = columnes.at(taula);
+  Recordset rs(
+      "SELECT " + columna + " AS CODI FROM " + taula + " WHERE " + columna + " > '0000000000' ORDER BY " + columna,
+      sessio.Connexio_Comuna);
+  const auto codi_de = [](std::int64_t i) {
+    const std::string text = "0000000000" + std::to_string(i);
+    return text.substr(text.size() - 10);
+  };
+  std::int64_t i = 1;
+  for (; !rs.Eof() && rs["CODI"].Text() == codi_de(i); rs.MoveNext()) ++i;
+  return codi_de(i);
 }

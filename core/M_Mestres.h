@@ -43,3 +43,6 @@ void Esborrar_Mestre(const Pregunta& paraules, const std::string& que, const Llo
 
 // A new row, whole or not at all. Raises 80004005 when the code is taken.
 void Crear_Fila(const char* taula, const std::vector<std::pair<std::string_view, Valor>>& valors);
+
+// First free ten-digit code of a table (ARTICLES, CLIENTS, PROVEIDORS, USUARIS, FAMILIES, EMPRESES).
+std::string Proxim_Codi(const std::string& taula);

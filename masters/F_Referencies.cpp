@@ -6,9 +6,9 @@
 #include "masters/M_Families.h"
 #include "masters/M_IVAs.h"
 #include "masters/M_Marques.h"
+#include "masters/M_Mestre_Magatzems.h"
 #include "masters/M_Subfamilies.h"
 #include "masters/M_Venciments.h"
-#include "stock/M_Magatzems.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Camps.h"
 #include "core/formularis/Control_Interface.h"
+#include "core/formularis/Serveis.h"
 #include "core/formularis/Teclat.h"
-#include "masters/M_Clients.h"
 #include "session/M_Locks.h"
 #include "session/M_Usuaris.h"
 #include "ui_F_Subinici.h"
@@ -18,9 +18,7 @@ void Obrir_Sessio() {
   Actualitzar_Menu_Sessio();
   Carregar_Drets(sessio.Usuari_Actual);
   Netejar_Locks_Equip();
-  if (!Toca_Avisar_Aniversaris()) return;
-  sessio.Crida_Document = "F_SUBINICI;ANIVERSARIS";
-  Obrir(QStringLiteral("F_CLIENTSM"));
+  if (serveis.despres_d_entrar) serveis.despres_d_entrar();
 }
 
 }  // namespace

@@ -6,16 +6,6 @@ std::string Nom_Idioma(std::int64_t id) {
   return falta ? "-" : rs["DESCRIPTION"].Text();
 }
 
-std::vector<Text_Pantalla> Textos_De(const std::string& objecte) {
-  std::vector<Text_Pantalla> textos;
-  Recordset rs("SELECT * FROM TEXTS WHERE F_OBJECT = " + Text_SQL(objecte) +
-                   " AND F_LANGUAGE = " + std::to_string(sessio.Idioma_Actual),
-               sessio.Connexio_Local);
-  for (; !rs.Eof(); rs.MoveNext())
-    textos.push_back({rs["F_CONTROL"].Text(), rs["F_PROPERTY"].Text(), rs["F_TEXT"].Text()});
-  return textos;
-}
-
 void Posar_Idioma_Sessio(std::int16_t id) {
   sessio.Idioma_Usuari = id;
   sessio.Idioma_Actual = id;

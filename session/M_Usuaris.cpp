@@ -135,23 +135,6 @@ void Actualitzar_Menu_Sessio() {
   sessio.pantalla->Menu_Text("M_Sel_Empresa", Titol_Menu_Empresa());
 }
 
-std::string Proxim_Codi(const std::string& taula) {
-  static const std::map<std::string, std::string> columnes = {{"ARTICLES", "CODI_ART"},  {"CLIENTS", "NIF_CLI"},
-                                                              {"PROVEIDORS", "NIF_PRO"}, {"USUARIS", "CODI_USU"},
-                                                              {"FAMILIES", "CODI_FAM"},  {"EMPRESES", "NIF_EMP"}};
-  const std::string& columna = columnes.at(taula);
-  Recordset rs(
-      "SELECT " + columna + " AS CODI FROM " + taula + " WHERE " + columna + " > '0000000000' ORDER BY " + columna,
-      sessio.Connexio_Comuna);
-  const auto codi_de = [](std::int64_t i) {
-    const std::string text = "0000000000" + std::to_string(i);
-    return text.substr(text.size() - 10);
-  };
-  std::int64_t i = 1;
-  for (; !rs.Eof() && rs["CODI"].Text() == codi_de(i); rs.MoveNext()) ++i;
-  return codi_de(i);
-}
-
 // ---- The users themselves ---------------------------------------------------------------------------------------
 
 std::string Nou_Usuari() {

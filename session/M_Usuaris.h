@@ -13,8 +13,6 @@ void Carregar_Drets(const std::string& usuari);
 bool Te_Acces(const std::string& dret);  // "C", "S" or "M", exactly
 // Ticks the language and writes user and company in the menu bar.
 void Actualitzar_Menu_Sessio();
-// First free ten-digit code of a table (ARTICLES, CLIENTS, PROVEIDORS, USUARIS, FAMILIES, EMPRESES).
-std::string Proxim_Codi(const std::string& taula);
 
 // Creates a user named "Usuari" and its code, active, without a password or any access, in the session's language.
 // Returns the code. Raises 80004005 when another terminal took the code at the same moment.

@@ -7,8 +7,11 @@
 #include "core/formularis/Control_Interface.h"
 #include "core/formularis/Formulari.h"
 #include "core/formularis/Pantalla_Qt.h"
+#include "core/formularis/Serveis.h"
 #include "masters/F_Mestres.h"
 #include "masters/F_Referencies.h"
+#include "masters/M_CP.h"
+#include "masters/M_Clients.h"
 #include "sales/F_Vendes.h"
 #include "session/F_Empresa.h"
 #include "session/F_EmpresesM.h"
@@ -17,12 +20,29 @@
 #include "session/F_UsuarisM.h"
 #include "session/M_Inici.h"
 #include "session/M_Usuaris.h"
+#include "session/Selector_Empresa.h"
 #include "shell/F_Cerca.h"
 #include "shell/F_Help.h"
 #include "shell/F_Principal.h"
 #include "shell/Instancia_Unica.h"
+#include "shell/Taules.h"
 
 namespace {
+
+// What lower rooms need of the ones above them.
+void Posar_Serveis() {
+  Posar_Taula_De_Pares();
+  Posar_Taula_De_Drets();
+  Posar_Taula_De_Crides();
+  serveis.localitat_de_cp = Localitat_CP;
+  serveis.triar_empresa = [](const std::string& actual) { return Selector_Empresa(actual).Triar(); };
+  serveis.obrir_cerca = [](Formulari* llista, const QPoint& lloc) { Obrir_Cerca(llista, lloc); };
+  serveis.despres_d_entrar = [] {
+    if (!Toca_Avisar_Aniversaris()) return;
+    sessio.Crida_Document = "F_SUBINICI;ANIVERSARIS";
+    Obrir(QStringLiteral("F_CLIENTSM"));
+  };
+}
 
 void Mostrar_Finestres() {
   auto* principal = new F_Principal;
@@ -39,6 +59,7 @@ void Mostrar_Finestres() {
 Aplicacio::Aplicacio(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("Brollador"));
   setDesktopFileName(QStringLiteral("brollador"));
+  Posar_Serveis();
   Vestir(*this);
 }
 

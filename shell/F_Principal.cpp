@@ -10,6 +10,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/formularis/Control_Interface.h"
 #include "core/formularis/Formulari.h"
+#include "session/Canvi_Idioma.h"
 #include "session/M_Empresa.h"
 #include "session/M_Usuaris.h"
 #include "shell/Aplicacio.h"
@@ -17,8 +18,6 @@
 #include "shell/Imprimir_Formulari.h"
 
 namespace {
-
-F_Principal* unica = nullptr;
 
 void Canviar_Usuari() {
   Descarregar_Tots();
@@ -33,15 +32,15 @@ void Canviar_Empresa() {
 }
 
 void Tancar_Del_Davant() {
-  if (const Formulari* davant = unica->Del_Davant()) Descarregar_Formulari(davant->Nom());
+  if (const Formulari* davant = F_Principal::Unica()->Del_Davant()) Descarregar_Formulari(davant->Nom());
 }
 
 void Imprimir_Del_Davant() {
-  Imprimir_Formulari(unica->Del_Davant());
+  Imprimir_Formulari(F_Principal::Unica()->Del_Davant());
 }
 
 void Cercar_Al_Davant() {
-  Obrir_Cerca(unica->Del_Davant());
+  Obrir_Cerca(F_Principal::Unica()->Del_Davant());
 }
 
 // The click has ticked its entry already: whatever becomes of the change, the ticks tell the language of the session.
@@ -135,12 +134,7 @@ void Fer(const Entrada& entrada) {
 
 }  // namespace
 
-F_Principal* F_Principal::Unica() {
-  return unica;
-}
-
 F_Principal::F_Principal() : area_(new QMdiArea(this)) {
-  unica = this;
   setObjectName(QStringLiteral("F_Principal"));
   resize(1366, 768);
   area_->setBackground(QColor(0xC9, 0xD3, 0xDC));
@@ -150,9 +144,7 @@ F_Principal::F_Principal() : area_(new QMdiArea(this)) {
   connect(area_, &QMdiArea::subWindowActivated, this, &F_Principal::Activada);
 }
 
-F_Principal::~F_Principal() {
-  unica = nullptr;
-}
+F_Principal::~F_Principal() = default;
 
 void F_Principal::Crear_Menu() {
   QMap<QString, QMenu*> menus;

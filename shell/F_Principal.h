@@ -2,27 +2,24 @@
 // forms by name, nothing of what they do.
 #pragma once
 
-#include <QMainWindow>
 #include <QMap>
 
-class Formulari;
-class QMdiArea;
-class QMdiSubWindow;
+#include "core/formularis/Finestra_Principal.h"
 
-class F_Principal : public QMainWindow {
+class Formulari;
+
+class F_Principal : public Finestra_Principal {
   Q_OBJECT
  public:
   F_Principal();
   ~F_Principal() override;
-  // The main window; null before the start and after the end.
-  static F_Principal* Unica();
+  static F_Principal* Unica() { return static_cast<F_Principal*>(Finestra_Principal::Unica()); }
 
-  QMdiArea* Area() const { return area_; }
-  Formulari* Del_Davant() const;                 // the form in front, or null
-  QAction* Accio(const QString& entrada) const;  // stops at once on an unknown name
-  // An entry whose screen does not exist in this program stays disabled.
-  void Habilitar(const QString& entrada, bool habilitada);
-  void Portar_Al_Davant(QMdiSubWindow* finestra);
+  QMdiArea* Area() const override { return area_; }
+  Formulari* Del_Davant() const;  // the form in front, or null
+  QAction* Accio(const QString& entrada) const override;
+  void Habilitar(const QString& entrada, bool habilitada) override;
+  void Portar_Al_Davant(QMdiSubWindow* finestra) override;
   void Portar_Al_Davant_Del_Tot();  // this window, over the others of the desktop
 
  protected:

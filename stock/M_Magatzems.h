@@ -30,6 +30,3 @@ void Actualitzar_Stock(const std::string& article, double minim, const std::stri
 void Afegir_Moviment(const std::string& article, const std::string& magatzem, double unitats, const std::string& tipus,
                      const std::string& document, bool porta_stock);
 bool Stock_Negatiu_Permes(const std::string& magatzem);
-
-void Esborrar_Magatzem(const std::string& codi);  // asks; nothing when in use
-bool Magatzem_En_Us(const std::string& codi);

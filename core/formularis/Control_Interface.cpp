@@ -10,14 +10,12 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Aparenca.h"
+#include "core/formularis/Crides.h"
+#include "core/formularis/Finestra_Principal.h"
 #include "core/formularis/Formulari.h"
 #include "core/formularis/Memoria_Pantalles.h"
+#include "core/formularis/Pares.h"
 #include "core/formularis/Traduccio.h"
-#include "session/M_Idiomes.h"
-#include "session/M_Usuaris.h"
-#include "shell/Crides.h"
-#include "shell/F_Principal.h"
-#include "shell/Pares.h"
 
 namespace {
 
@@ -65,7 +63,7 @@ void Mesurar_De_Nou(const Formulari* formulari) {
 // The size that the user gave it, or room enough for what the form asks for; never more than there is.
 void Collocar(Formulari* formulari) {
   Mesurar_De_Nou(formulari);
-  QMdiArea* area = F_Principal::Unica()->Area();
+  QMdiArea* area = Finestra_Principal::Unica()->Area();
   QMdiSubWindow* finestra = area->addSubWindow(formulari);
   finestra->setAttribute(Qt::WA_DeleteOnClose);
   if (formulari->Sempre_A_Dalt()) finestra->setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -153,7 +151,7 @@ Formulari* Carregar_Amagat(const QString& nom) {
 void Recordar_Mida(const Formulari* formulari) {
   const QMdiSubWindow* finestra = Subfinestra(formulari);
   if (finestra == nullptr || finestra->isMaximized() || finestra->isMinimized()) return;
-  const QSize lloc = F_Principal::Unica()->Area()->viewport()->size();
+  const QSize lloc = Finestra_Principal::Unica()->Area()->viewport()->size();
   Recordar_Mida(formulari->Nom(), finestra->size(), Mida_Propia(formulari).boundedTo(lloc));
 }
 
@@ -161,7 +159,7 @@ Formulari* Mostrar_Formulari(const QString& nom) {
   Formulari* formulari = Carregar_Amagat(nom);
   if (formulari == nullptr) return nullptr;
   if (Subfinestra(formulari) == nullptr) Collocar(formulari);
-  F_Principal::Unica()->Portar_Al_Davant(Subfinestra(formulari));
+  Finestra_Principal::Unica()->Portar_Al_Davant(Subfinestra(formulari));
   return formulari;
 }
 
@@ -179,7 +177,7 @@ void Descarregar_Formulari(const QString& nom) {
 
 void Descarregar_Tots() {
   QStringList noms;
-  for (QMdiSubWindow* finestra : F_Principal::Unica()->Area()->subWindowList(QMdiArea::StackingOrder)) {
+  for (QMdiSubWindow* finestra : Finestra_Principal::Unica()->Area()->subWindowList(QMdiArea::StackingOrder)) {
     noms.prepend(finestra->widget() == nullptr ? QString() : finestra->widget()->objectName());
   }
   for (const auto* amagat : Formularis_Carregats()) noms << amagat->Nom();
@@ -211,7 +209,7 @@ void Tancar_Formulari(const QString& nom) {
     if (seguent == nullptr) seguent = Subfinestra(carregat);
   }
   if (majuscules != u"F_CERCA") Descarregar_Formulari(QStringLiteral("F_CERCA"));
-  if (seguent != nullptr) F_Principal::Unica()->Portar_Al_Davant(seguent);
+  if (seguent != nullptr) Finestra_Principal::Unica()->Portar_Al_Davant(seguent);
 }
 
 void Aplicar_Drets(const QString& nom) {
@@ -222,13 +220,6 @@ void Obrir(const QString& nom) {
   Formulari::Guardar_Event([&] {
     if (Mostrar_Formulari(nom) != nullptr) Obrir_Formulari(nom);
   });
-}
-
-void Canviar_Idioma(std::int16_t id) {
-  Fixar_Idioma(id);
-  Traduir_Formulari(QStringLiteral("F_PRINCIPAL"));
-  for (const auto* formulari : Formularis_Carregats()) Traduir_Formulari(formulari->Nom());
-  Actualitzar_Menu_Sessio();
 }
 
 void Punter_Ocupat() {

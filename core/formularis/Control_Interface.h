@@ -39,9 +39,6 @@ void Aplicar_Drets(const QString& nom);
 // Mostrar_Formulari and Obrir_Formulari under the busy pointer: what a menu entry does.
 void Obrir(const QString& nom);
 
-// The language of the user and of every open form.
-void Canviar_Idioma(std::int16_t id);
-
 // The pictures of the pointer.
 void Punter_Ocupat();
 void Punter_Normal();

@@ -6,8 +6,8 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Control_Interface.h"
+#include "core/formularis/Drets.h"
 #include "core/formularis/Teclat.h"
-#include "shell/Drets.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/formularis/Control_Interface.h"
+#include "core/formularis/Finestra_Principal.h"
 #include "core/formularis/Formulari.h"
-#include "session/Selector_Empresa.h"
-#include "shell/F_Principal.h"
+#include "core/formularis/Serveis.h"
 
 std::function<Resposta(const QString&, int, const QString&)> Pantalla_Qt::Contestador;
 std::function<std::string(const std::string&, int)> Pantalla_Qt::Triador_Empresa;
@@ -119,20 +119,20 @@ bool Pantalla_Qt::eventFilter(QObject* objecte, QEvent* event) {
 std::string Pantalla_Qt::Triar_Empresa(const std::string& actual, int idioma) {
   if (Triador_Empresa) return Triador_Empresa(actual, idioma);
   QApplication::setOverrideCursor(Qt::ArrowCursor);
-  std::string triada = Selector_Empresa(actual).Triar();
+  std::string triada = serveis.triar_empresa ? serveis.triar_empresa(actual) : std::string();
   QApplication::restoreOverrideCursor();
   return triada;
 }
 
 void Pantalla_Qt::Menu_Habilitat(std::string_view entrada, bool habilitat) {
-  F_Principal::Unica()->Habilitar(Qt_Text(entrada), habilitat);
+  Finestra_Principal::Unica()->Habilitar(Qt_Text(entrada), habilitat);
 }
 void Pantalla_Qt::Menu_Visible(std::string_view entrada, bool visible) {
-  F_Principal::Unica()->Accio(Qt_Text(entrada))->setVisible(visible);
+  Finestra_Principal::Unica()->Accio(Qt_Text(entrada))->setVisible(visible);
 }
 void Pantalla_Qt::Menu_Marcat(std::string_view entrada, bool marcat) {
-  F_Principal::Unica()->Accio(Qt_Text(entrada))->setChecked(marcat);
+  Finestra_Principal::Unica()->Accio(Qt_Text(entrada))->setChecked(marcat);
 }
 void Pantalla_Qt::Menu_Text(std::string_view entrada, const std::string& text) {
-  F_Principal::Unica()->Accio(Qt_Text(entrada))->setText(Qt_Text(text).replace(u'&', QStringLiteral("&&")));
+  Finestra_Principal::Unica()->Accio(Qt_Text(entrada))->setText(Qt_Text(text).replace(u'&', QStringLiteral("&&")));
 }

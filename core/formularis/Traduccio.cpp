@@ -10,12 +10,12 @@
 #include <QRegularExpression>
 #include <QTabWidget>
 
+#include "core/M_Textos.h"
 #include "core/controls/Controls.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Control_Interface.h"
+#include "core/formularis/Finestra_Principal.h"
 #include "core/formularis/Formulari.h"
-#include "session/M_Idiomes.h"
-#include "shell/F_Principal.h"
 
 namespace {
 
@@ -59,7 +59,7 @@ bool Posar_Titol(QObject* control, const QString& text, int index) {
     boto->setText(text);
   } else if (auto* grup = qobject_cast<QGroupBox*>(control)) {
     grup->setTitle(text);
-  } else if (qobject_cast<Formulari*>(control) != nullptr || qobject_cast<F_Principal*>(control) != nullptr) {
+  } else if (qobject_cast<Formulari*>(control) != nullptr || qobject_cast<Finestra_Principal*>(control) != nullptr) {
     static_cast<QWidget*>(control)->setWindowTitle(text);
   } else {
     return false;
@@ -105,7 +105,7 @@ bool Posar_Propietat(QObject* control, const QString& propietat, const QString& 
 }
 
 QWidget* Finestra_De_Nom(const QString& nom) {
-  if (nom == u"F_PRINCIPAL") return F_Principal::Unica();
+  if (nom == u"F_PRINCIPAL") return Finestra_Principal::Unica();
   return Formulari_De_Nom(nom);
 }
 

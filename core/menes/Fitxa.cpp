@@ -9,7 +9,7 @@
 #include "core/controls/Camps.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Control_Interface.h"
-#include "masters/M_CP.h"
+#include "core/formularis/Serveis.h"
 
 Fitxa::Fitxa(const QString& nom, std::string taula) : Formulari(nom), taula_(std::move(taula)) {}
 
@@ -42,7 +42,8 @@ void Fitxa::Seguir_CP(QLineEdit* cp, QLineEdit* localitat) {
     if (cp->text().isEmpty()) {
       localitat->clear();
     } else if (cp->text() != *recordat || localitat->text().isEmpty()) {
-      localitat->setText(QString::fromStdString(Localitat_CP(cp->text().toStdString())));
+      const auto& localitat_de = serveis.localitat_de_cp;
+      localitat->setText(localitat_de ? QString::fromStdString(localitat_de(cp->text().toStdString())) : QString());
     }
   });
 }

@@ -6,8 +6,8 @@
 #include "core/controls/Files.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Control_Interface.h"
-#include "shell/Crides.h"
-#include "shell/Drets.h"
+#include "core/formularis/Crides.h"
+#include "core/formularis/Drets.h"
 
 void Llista::Muntar(Graella* graella, const std::vector<Columna_Graella>& columnes) {
   graella_ = graella;

@@ -7,7 +7,7 @@
 
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Control_Interface.h"
-#include "shell/F_Cerca.h"
+#include "core/formularis/Serveis.h"
 
 namespace {
 
@@ -65,6 +65,6 @@ bool Taula_Referencia::eventFilter(QObject* objecte, QEvent* event) {
                      static_cast<QMouseEvent*>(event)->button() == Qt::RightButton;
   if (!dreta) return Llista::eventFilter(objecte, event);
   const QPoint lloc = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
-  if (Graella_Llista()->Desar_Fila()) Guardar_Event([&] { Obrir_Cerca(this, lloc); });
+  if (Graella_Llista()->Desar_Fila() && serveis.obrir_cerca) Guardar_Event([&] { serveis.obrir_cerca(this, lloc); });
   return true;
 }

@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "core/M_Textos.h"
 #include "core/dades/Error_Brollador.h"
-#include "session/M_Idiomes.h"
 
 Informe::Informe(const Definicio_Informe& definicio) : definicio_(definicio) {
   for (const auto& control : definicio_.controls) {

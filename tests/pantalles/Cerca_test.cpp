@@ -2,8 +2,8 @@
 #include <QComboBox>
 #include <QMdiArea>
 
+#include "core/formularis/Pares.h"
 #include "shell/F_Cerca.h"
-#include "shell/Pares.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // The return of a chosen row into the field that asked for it.
-#include "shell/Crides.h"
+#include "core/formularis/Crides.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -8,8 +8,8 @@
 
 #include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/formularis/Pares.h"
 #include "shell/F_Cerca.h"
-#include "shell/Pares.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {

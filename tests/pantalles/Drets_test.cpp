@@ -1,5 +1,5 @@
 // The rights on the controls of every form.
-#include "shell/Drets.h"
+#include "core/formularis/Drets.h"
 
 #include <QFile>
 #include <QPushButton>
@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "core/controls/Controls.h"
-#include "shell/Pares.h"
+#include "core/formularis/Pares.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {

@@ -9,6 +9,7 @@
 #include <QTabBar>
 
 #include "core/controls/Graella.h"
+#include "session/Canvi_Idioma.h"
 #include "tests/pantalles/Cada_Pantalla.h"
 
 namespace {

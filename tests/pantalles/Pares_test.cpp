@@ -1,5 +1,5 @@
 // Parents of forms: who is disabled, who is requeried, who is created.
-#include "shell/Pares.h"
+#include "core/formularis/Pares.h"
 
 #include <QSet>
 

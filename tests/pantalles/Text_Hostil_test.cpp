@@ -10,7 +10,7 @@
 
 #include "core/controls/Camps.h"
 #include "core/controls/Graella.h"
-#include "shell/Drets.h"
+#include "core/formularis/Drets.h"
 #include "tests/pantalles/Cada_Pantalla.h"
 
 namespace {

@@ -1,5 +1,7 @@
 #include "session/M_Idiomes.h"
 
+#include "core/M_Textos.h"
+
 #include "tests/regles/Base.h"
 
 class M_Idiomes : public Base_Dades {

@@ -12,6 +12,7 @@
 #include "masters/M_Families.h"
 #include "masters/M_IVAs.h"
 #include "masters/M_Marques.h"
+#include "masters/M_Mestre_Magatzems.h"
 #include "masters/M_Proveidors.h"
 #include "masters/M_Subfamilies.h"
 #include "masters/M_Venciments.h"

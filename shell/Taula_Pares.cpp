@@ -1,8 +1,5 @@
-#include "shell/Pares.h"
-
-#include <algorithm>
-
-#include "core/Sessio.h"
+#include "core/formularis/Pares.h"
+#include "shell/Taules.h"
 
 namespace {
 
@@ -52,32 +49,8 @@ constexpr const char16_t* sense_pares[] = {
     u"F_SUBFAMILIESM", u"F_USUARISM",    u"F_VENCIMENTSM",
 };
 
-bool Val_Ara(const Pare& pare) {
-  if (pare.mena == Mena_Pare::Per_Crida) return sessio.Crida_Document == pare.clau;
-  if (pare.mena == Mena_Pare::Per_Tipus_Pagament) return sessio.Pag_Document == pare.clau;
-  return true;
-}
-
 }  // namespace
 
-std::span<const Pare> Taula_De_Pares() {
-  return pares;
-}
-
-std::span<const char16_t* const> Formularis_Sense_Pares() {
-  return sense_pares;
-}
-
-bool Es_Del_Sistema(const QString& majuscules) {
-  const auto es = [&](const char16_t* nom) { return majuscules == QStringView(nom); };
-  return std::any_of(std::begin(pares), std::end(pares), [&](const Pare& pare) { return es(pare.formulari); }) ||
-         std::any_of(std::begin(sense_pares), std::end(sense_pares), es);
-}
-
-std::vector<const Pare*> Pares_De(const QString& majuscules) {
-  std::vector<const Pare*> seus;
-  for (const Pare& pare : pares) {
-    if (majuscules == QStringView(pare.formulari) && Val_Ara(pare)) seus.push_back(&pare);
-  }
-  return seus;
+void Posar_Taula_De_Pares() {
+  Fixar_Pares(pares, sense_pares);
 }

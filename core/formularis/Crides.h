@@ -35,6 +35,8 @@ struct Crida {
   std::vector<Desti_Crida> destins;
 };
 
+// The table, handed over by the shell, which knows every form.
+void Fixar_Crides(std::span<const Crida> taula);
 std::span<const Crida> Taula_De_Crides();
 
 // The call that this list was opened for and whose caller is still there; null when it was opened from the menu.

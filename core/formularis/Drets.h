@@ -30,6 +30,8 @@ struct Fila_Drets {
 
 // A form may have several rows.
 std::span<const Fila_Drets> Taula_De_Drets();
+// The table, handed over by the shell, which knows every form.
+void Fixar_Drets(std::span<const Fila_Drets> taula);
 
 // Applies the rows of a loaded form, passing over the controls that it has not. Nothing for a form without rows.
 void Aplicar_Taula_De_Drets(Formulari& formulari);

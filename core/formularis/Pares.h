@@ -22,6 +22,8 @@ struct Pare {
   const char* clau = "";  // what the session has to hold, when it tells the parent
 };
 
+// The tables, handed over by the shell, which knows every form.
+void Fixar_Pares(std::span<const Pare> taula, std::span<const char16_t* const> sense);
 std::span<const Pare> Taula_De_Pares();
 std::span<const char16_t* const> Formularis_Sense_Pares();
 

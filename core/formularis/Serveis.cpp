@@ -1,0 +1,3 @@
+#include "core/formularis/Serveis.h"
+
+Serveis_De_Dalt serveis;
