@@ -18,6 +18,7 @@ class Nota_Oberta : public Document_Obert {
   explicit Nota_Oberta(std::int64_t numero);
   void Afegir(const Linia_Entrada& linia);  // in a transaction of its own; raises what the rules raise
 
+  Valor Numero_Document() const override { return cap_.numero; }
   bool Re_Marcat() const override { return false; }
   void Posar_Import(double euros) override { import_ = euros; }
   void Posar_Estat(bool) override {}

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/dades/Valor.h"
+
 // Styles of a message box; one of the buttons plus one of the icons.
 namespace estil {
 constexpr int simple = 0;
@@ -22,6 +24,7 @@ enum class Resposta { Ok = 1, Cancel = 2, Si = 6, No = 7 };
 class Document_Obert {
  public:
   virtual ~Document_Obert() = default;
+  virtual Valor Numero_Document() const = 0;       // of the document that it shows
   virtual bool Re_Marcat() const = 0;              // its CHK_RE_*
   virtual void Posar_Import(double euros) = 0;     // its TXT_IMPORT_*
   virtual void Posar_Estat(bool estat) = 0;        // its CHK_ESTAT_*

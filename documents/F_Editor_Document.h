@@ -41,6 +41,7 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Aplicar_Drets() override { Aplicar_Estat(); }
   Document_Obert* Document() override { return this; }
 
+  Valor Numero_Document() const override { return numero_; }
   bool Re_Marcat() const override;
   void Posar_Import(double euros) override;
   void Posar_Estat(bool estat) override;

@@ -69,6 +69,7 @@ class Pantalla_Muda : public Pantalla {
 class Albara_En_Curs : public Document_Obert {
  public:
   explicit Albara_En_Curs(bool re) : re_(re) {}
+  Valor Numero_Document() const override { return 0; }
   bool Re_Marcat() const override { return re_; }
   void Posar_Import(double euros) override { import = euros; }
   void Posar_Estat(bool) override {}

@@ -26,6 +26,7 @@
 // An open document form: what rules wrote on it.
 class Document_Fals : public Document_Obert {
  public:
+  std::int64_t numero = 0;
   bool re = false;
   std::optional<double> import;
   std::optional<bool> estat;
@@ -33,6 +34,7 @@ class Document_Fals : public Document_Obert {
   int capcaleres_desades = 0;
   int peus_refrescats = 0;
 
+  Valor Numero_Document() const override { return numero; }
   bool Re_Marcat() const override { return re; }
   void Posar_Import(double euros) override { import = euros; }
   void Posar_Estat(bool valor) override { estat = valor; }

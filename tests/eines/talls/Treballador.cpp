@@ -16,6 +16,7 @@ namespace {
 class Formulari_Mut : public Document_Obert {
  public:
   explicit Formulari_Mut(bool re) : re_(re) {}
+  Valor Numero_Document() const override { return 0; }
   bool Re_Marcat() const override { return re_; }
   void Posar_Import(double) override {}
   void Posar_Estat(bool) override {}

@@ -1,0 +1,243 @@
+#include "payments/M_Flags.h"
+
+#include <functional>
+#include <optional>
+#include <set>
+#include <span>
+
+#include "core/M_Funcions_Comuns.h"
+#include "payments/Decisions_Flag.h"
+
+namespace {
+
+[[noreturn]] void Refusar(const std::string& text) {
+  throw Error_Brollador(errors::refusat, "Flag Pagament", text);
+}
+
+std::string Nom_Columna(const Nivell_Pagable& nivell, const char* paper) {
+  return std::string(paper) + "_" + std::string(nivell.sufix);
+}
+
+std::string Condicio(const Nivell_Pagable& nivell, std::int64_t numero) {
+  return " WHERE " + Nom_Columna(nivell, "NUMALB") + " = " + std::to_string(numero) + " AND " + Nom_Columna(nivell, "EMPRESA") +
+         " = " + Text_SQL(sessio.Empresa_Actual);
+}
+
+// The form of that kind, when it is loaded, takes the flag on the document that it shows; its number, or nothing.
+std::optional<std::int64_t> Posar_Al_Formulari(const Document_Pagable& document, bool flag) {
+  Document_Obert* obert = sessio.pantalla->Document(Nivell_De(document.lletra).formulari);
+  if (obert == nullptr) return {};
+  obert->Posar_Pagament(flag);
+  obert->Desar_Capcalera();
+  return obert->Numero_Document().Enter();
+}
+
+void Posar_A_La_Capcalera(const Document_Pagable& document, bool flag) {
+  const Nivell_Pagable& nivell = Nivell_De(document.lletra);
+  sessio.Connexio_Comuna.Execute_Despres("UPDATE " + std::string(nivell.taula) + " SET " + Nom_Columna(nivell, "PAGAMENT") +
+                                         " = " + (flag ? "-1" : "0") + Condicio(nivell, document.numero));
+}
+
+void Escriure_Flag(Cadena& cadena, const Document_Pagable& document, bool flag) {
+  if (const auto mostrat = Posar_Al_Formulari(document, flag)) {
+    cadena.Apuntar_Flag({document.lletra, *mostrat}, flag);
+  } else if (cadena.Apuntar_Flag(document, flag)) {
+    Posar_A_La_Capcalera(document, flag);
+  }
+}
+
+// ---- Questions to the documents that are linked with one
+
+using Documents = std::vector<Document_Pagable>;
+using Pregunta_Document = bool (Cadena::*)(const Document_Pagable&) const;
+
+// The documents of the walk, in their order, each of them once.
+class Llista_De_Feina {
+ public:
+  void Afegir(const Document_Pagable& document) {
+    if (vistos_.insert(document).second) documents_.push_back(document);
+  }
+  std::size_t Quants() const { return documents_.size(); }
+  Document_Pagable operator[](std::size_t i) const { return documents_[i]; }
+
+ private:
+  Documents documents_;
+  std::set<Document_Pagable> vistos_;
+};
+
+// Each document that is asked enters the list, up to the first that answers otherwise.
+Resposta_Cadena Preguntar(const Cadena& cadena, const Documents& documents, Pregunta_Document pregunta,
+                          Llista_De_Feina& feina) {
+  if (documents.empty()) return Resposta_Cadena::Cap_Document;
+  const bool primera = (cadena.*pregunta)(documents.front());
+  for (const Document_Pagable& document : documents) {
+    if ((cadena.*pregunta)(document) != primera) return Resposta_Cadena::Discrepen;
+    feina.Afegir(document);
+  }
+  return primera ? Resposta_Cadena::Totes_Si : Resposta_Cadena::Totes_No;
+}
+
+Documents Enllacats(const Cadena& cadena, const Document_Pagable& document, char lletra) {
+  Documents trobats;
+  for (const std::int64_t numero : cadena.Enllacats(document, lletra)) trobats.push_back({lletra, numero});
+  return trobats;
+}
+
+// What is linked with each of its notes: the invoices of an order, the orders of an invoice.
+Documents A_Traves_Dels_Albarans(const Cadena& cadena, const Document_Pagable& document, char lletra) {
+  Documents trobats;
+  for (const Document_Pagable& albara : Enllacats(cadena, document, 'A')) {
+    for (const Document_Pagable& altre : Enllacats(cadena, albara, lletra)) trobats.push_back(altre);
+  }
+  return trobats;
+}
+
+// Do the documents of the level before carry the payments: by their flags, and where all are on, by what they hold.
+// Flags without a payment behind them are taken away then.
+Resposta_Cadena Preguntar_Al_Nivell_Anterior(Cadena& cadena, const Document_Pagable& document, char lletra,
+                                             Llista_De_Feina& feina,
+                                             const std::function<void(const Documents&)>& treure) {
+  const Documents anteriors = Enllacats(cadena, document, lletra);
+  const Resposta_Cadena flags = Preguntar(cadena, anteriors, &Cadena::Flag, feina);
+  if (flags != Resposta_Cadena::Totes_Si) return flags;
+  const Resposta_Cadena pagaments = Preguntar(cadena, anteriors, &Cadena::Te_Pagaments, feina);
+  if (pagaments == Resposta_Cadena::Totes_No) treure(anteriors);
+  return pagaments;
+}
+
+// ---- The walk
+
+class Recorregut {
+ public:
+  explicit Recorregut(Cadena& cadena) : cadena_(cadena) {}
+
+  // The list grows while it is gone through; a document that is in it already does not enter again, which ends the
+  // walk.
+  void Fer(const Document_Pagable& inici) {
+    feina_.Afegir(inici);
+    while (fets_ < feina_.Quants()) {
+      for (const std::size_t fins_on = feina_.Quants(); fets_ < fins_on; ++fets_) Avaluar_Flag_Pagament(feina_[fets_]);
+      sessio.pantalla->Processar_Events();
+    }
+  }
+
+  // The work list as the walk left it, for whoever looks into it afterwards.
+  void Desar_Llista() const {
+    Connexio& local = sessio.Connexio_Local;
+    local.BeginTrans();
+    local.Execute("DELETE * FROM FLAG_PAGAMENTS_TEMP");
+    for (std::size_t i = 0; i < feina_.Quants(); ++i) {
+      local.Afegir_Fila("FLAG_PAGAMENTS_TEMP", {{"DOCUMENT", Valor(std::string(1, feina_[i].lletra))},
+                                                {"NUMALB", Valor(feina_[i].numero)},
+                                                {"FLAG", Valor(std::int64_t{i < fets_ ? -1 : 0})}});
+    }
+    local.CommitTrans();
+  }
+
+ private:
+  void Avaluar_Flag_Pagament(const Document_Pagable& document) {
+    if (document.lletra == 'P') return Avaluar_Comanda(document);
+    if (document.lletra == 'A') return Avaluar_Albara(document);
+    Avaluar_Factura(document);
+  }
+
+  void Avaluar_Comanda(const Document_Pagable& comanda) {
+    const bool pagaments = cadena_.Te_Pagaments(comanda);
+    const Resposta_Cadena albarans = Flags(Enllacats(cadena_, comanda, 'A'));
+    const Resposta_Cadena factures = Flags(A_Traves_Dels_Albarans(cadena_, comanda, 'F'));
+    Decidir(comanda, decisions::comanda, resposta::Conjunt(factures), resposta::Conjunt(albarans),
+            resposta::Conjunt(pagaments));
+  }
+
+  void Avaluar_Albara(const Document_Pagable& albara) {
+    const Resposta_Cadena comandes = Nivell_Anterior(albara, 'P');
+    const bool propi = cadena_.Flag(albara);
+    const Resposta_Cadena factura = Flags(Enllacats(cadena_, albara, 'F'));
+    Decidir(albara, decisions::albara, resposta::Conjunt(factura), resposta::Conjunt(comandes),
+            resposta::Conjunt(propi));
+  }
+
+  void Avaluar_Factura(const Document_Pagable& factura) {
+    const bool propi = cadena_.Flag(factura);
+    const Resposta_Cadena albarans = Nivell_Anterior(factura, 'A');
+    const Resposta_Cadena comandes = Flags(A_Traves_Dels_Albarans(cadena_, factura, 'P'));
+    Decidir(factura, decisions::factura, resposta::Conjunt(propi), resposta::Conjunt(albarans),
+            resposta::Conjunt(comandes));
+  }
+
+  Resposta_Cadena Flags(const Documents& documents) { return Preguntar(cadena_, documents, &Cadena::Flag, feina_); }
+
+  Resposta_Cadena Nivell_Anterior(const Document_Pagable& document, char lletra) {
+    return Preguntar_Al_Nivell_Anterior(cadena_, document, lletra, feina_, [this](const Documents& anteriors) {
+      for (const Document_Pagable& anterior : anteriors) Escriure_Flag(cadena_, anterior, false);
+    });
+  }
+
+  void Decidir(const Document_Pagable& document, std::span<const Decisio_Flag> taula, unsigned primer, unsigned segon,
+               unsigned tercer) {
+    for (const Decisio_Flag& decisio : taula) {
+      if ((decisio.primer & primer) == 0 || (decisio.segon & segon) == 0 || (decisio.tercer & tercer) == 0) continue;
+      if (!decisio.flag) Refusar(decisio.error);
+      return Escriure_Flag(cadena_, document, *decisio.flag);
+    }
+  }
+
+  Cadena& cadena_;
+  Llista_De_Feina feina_;
+  std::size_t fets_ = 0;
+};
+
+}  // namespace
+
+void Propagar_Flag_Pagaments(Cadena& cadena, const Document_Pagable& document) {
+  Recorregut recorregut(cadena);
+  try {
+    recorregut.Fer(document);
+  } catch (...) {
+    recorregut.Desar_Llista();
+    throw;
+  }
+  recorregut.Desar_Llista();
+}
+
+// Flags that were written before an error stay when nobody else's work depends on them.
+void Propagar_Flag_Pagaments(const std::string& document, std::int64_t numalb) {
+  const Document_Pagable inici{document.at(0), numalb};
+  Transaccio transaccio;
+  Cadena cadena({inici});
+  try {
+    Propagar_Flag_Pagaments(cadena, inici);
+  } catch (const Error_Brollador& error) {
+    if (error.Numero() == errors::refusat) transaccio.Confirmar();
+    throw;
+  }
+  transaccio.Confirmar();
+}
+
+bool Flag_Pagament(const std::string& document, std::int64_t numalb) {
+  const Nivell_Pagable& nivell = Nivell_De(document.at(0));
+  const Recordset rs("SELECT " + Nom_Columna(nivell, "PAGAMENT") + " AS FLAG_PAGAMENT FROM " + std::string(nivell.taula) +
+                         Condicio(nivell, numalb),
+                     sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 && Nul_A_Defecte(rs[0]).Boolea();
+}
+
+void Posar_Flag_Pagament(const std::string& document, std::int64_t numalb, bool flag) {
+  const Document_Pagable quin{document.at(0), numalb};
+  if (!Posar_Al_Formulari(quin, flag)) Posar_A_La_Capcalera(quin, flag);
+}
+
+void Comprovar_Linia_Albara(Cadena& cadena, std::int64_t albara, std::int64_t comanda) {
+  const Document_Pagable nota{'A', albara};
+  Llista_De_Feina cap;
+  const Resposta_Cadena comandes = Preguntar_Al_Nivell_Anterior(
+      cadena, nota, 'P', cap, [&](const Documents&) { Escriure_Flag(cadena, nota, false); });
+  if (comandes == Resposta_Cadena::Totes_Si || comandes == Resposta_Cadena::Discrepen) {
+    Refusar("No es poden afegir línies a l'albarà si no pot tenir pagaments!");
+  }
+  if (comanda == 0) return;
+  const Document_Pagable servida{'P', comanda};
+  const bool com_la_resta = comandes == Resposta_Cadena::Totes_No && !cadena.Flag(servida);
+  const bool pagaments = cadena.Te_Pagaments(servida);
+  if (!com_la_resta && pagaments != cadena.Flag(servida)) Escriure_Flag(cadena, servida, pagaments);
+}
