@@ -1,13 +1,15 @@
 #include "schema/Installador.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 #include <functional>
 
 #include "core/dades/Error_Brollador.h"
 #include "core/dades/Recordset.h"
-#include "schema/Fitxers_Encastats.h"
-#include "schema/Textos.h"
+#include "schema/Definicions.h"
 
 namespace fs = std::filesystem;
 
@@ -44,6 +46,8 @@ constexpr const char* files_de_base[] = {
 constexpr const char* drets[] = {"P_Clients",    "P_Proveidors",   "P_Articles", "P_Usuaris",  "P_CP",
                                  "P_Venciments", "P_Pressupostos", "P_Comandes", "P_Albarans", "P_Factures"};
 
+constexpr const char* fitxers_de_terminal[] = {"Brollador.ini", "dadeslocals.db"};
+
 void Exigir_Lliure(const fs::path& cami) {
   if (fs::exists(cami)) Llancar_Error(errors::fitxer_existent, "brollador-install", cami.string());
 }
@@ -74,6 +78,12 @@ class Obra {
       fets_.push_back(pendents_.back());
     }
   }
+  // A folder for the user alone; one that stands already stays as it is.
+  void Carpeta_Privada(const fs::path& cami) {
+    const bool nova = !fs::exists(cami);
+    Carpeta(cami);
+    if (nova) fs::permissions(cami, fs::perms::owner_all);
+  }
   // A file that is about to be made, so that half a file goes too.
   void Fitxer(const fs::path& cami) {
     Exigir_Lliure(cami);
@@ -85,9 +95,13 @@ class Obra {
       base_servidor_ = adreca;
       return;
     }
-    Fitxer(adreca);
-    for (const char* companyia : {"-journal", "-edicions"}) fets_.emplace_back(adreca + companyia);
+    Fitxer_De_Dades(adreca);
     Crear_Base_Dades(adreca);
+  }
+  // The same of a database, with what the engine puts beside it.
+  void Fitxer_De_Dades(const std::string& cami) {
+    Fitxer(cami);
+    for (const char* companyia : {"-journal", "-edicions"}) fets_.emplace_back(cami + companyia);
   }
   void Acabada() { acabada_ = true; }
 
@@ -98,20 +112,11 @@ class Obra {
   bool acabada_ = false;
 };
 
-// All of the work on one connection, kept or undone as one.
-void En_Transaccio(Connexio& connexio, const std::function<void()>& feina) {
-  connexio.BeginTrans();
-  try {
-    feina();
-    connexio.CommitTrans();
-  } catch (...) {
-    connexio.RollbackTrans();
-    throw;
-  }
-}
-
-// Brollador.ini holds the address between quotes, on one line.
+// Brollador.ini holds the address between quotes, on one line. There may be a password in it: nobody else ever reads
+// it.
 void Escriure_Ini(const fs::path& ini, const std::string& adreca) {
+  const int descriptor = open(ini.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  if (descriptor >= 0) close(descriptor);
   std::ofstream fitxer(ini);
   fitxer << '"' << adreca << "\"\n";
   if (!fitxer.flush()) throw Error_Brollador(errors::general, "brollador-install", ini.string());
@@ -119,23 +124,18 @@ void Escriure_Ini(const fs::path& ini, const std::string& adreca) {
 
 void Exigir_Adreca_Escrivible(const std::string& adreca) {
   if (adreca.find_first_of("\"\r\n") == std::string::npos) return;
-  throw Error_Brollador(errors::general, "brollador-install", "a path cannot hold quotes or line breaks: " + adreca);
+  throw Error_Brollador(errors::general, "brollador-install",
+                        "an address cannot hold quotes or line breaks: " + Adreca_Per_Mostrar(adreca));
 }
 
 void Crear_Carpeta_Dades(const Opcions_Installacio& opcions, Obra& obra) {
   const fs::path carpeta(opcions.carpeta);
   Exigir_Adreca_Escrivible(Adreca_Compartida(opcions));
-  Exigir_Lliure(carpeta / "Brollador.ini");
-  Exigir_Lliure(carpeta / "dadeslocals.db");
-  for (const auto& cami : {carpeta, carpeta / "copia", carpeta / "Temp"}) obra.Carpeta(cami);
+  for (const char* fitxer : fitxers_de_terminal) Exigir_Lliure(carpeta / fitxer);
+  for (const auto& cami : {carpeta, carpeta / "copia", carpeta / "Temp"}) obra.Carpeta_Privada(cami);
   const std::string locals = carpeta / "dadeslocals.db";
-  obra.Base_De_Dades(locals);
-  Connexio local;
-  local.Open(locals);
-  En_Transaccio(local, [&] {
-    Executar_Fitxer(local, Fitxer_Encastat("local.sql"));
-    Carregar_Textos(local);
-  });
+  obra.Fitxer_De_Dades(locals);
+  Crear_Local(locals);
   const fs::path ini = carpeta / "Brollador.ini";
   obra.Fitxer(ini);
   Escriure_Ini(ini, Adreca_Compartida(opcions));
@@ -166,7 +166,7 @@ void Crear_Compartida(const Opcions_Installacio& opcions, const Primera_Empresa&
   Connexio comuna;
   comuna.Open(adreca);
   En_Transaccio(comuna, [&] {
-    Executar_Fitxer(comuna, Fitxer_Encastat("comuna.sql"));
+    Definir_Comuna(comuna);
     for (const char* fila : files_necessaries) comuna.Execute(fila);
     if (de_base) {
       for (const char* fila : files_de_base) comuna.Execute(fila);
@@ -187,10 +187,19 @@ void Crear(const Opcions_Installacio& opcions, const Primera_Empresa& empresa, b
 }  // namespace
 
 std::string Adreca_Compartida(const Opcions_Installacio& opcions) {
+  Exigir_Adreca(opcions.compartida);
   if (Es_De_Servidor(opcions.compartida)) return opcions.compartida;
   const fs::path cami =
       opcions.compartida.empty() ? fs::path(opcions.carpeta) / "comuna.db" : fs::path(opcions.compartida);
   return fs::absolute(cami).string();
+}
+
+void Exigir_Lloc_Lliure(const Opcions_Installacio& opcions) {
+  for (const char* fitxer : fitxers_de_terminal) Exigir_Lliure(fs::path(opcions.carpeta) / fitxer);
+  const std::string adreca = Adreca_Compartida(opcions);
+  if (Base_Dades_Ocupada(adreca)) {
+    Llancar_Error(errors::fitxer_existent, "brollador-install", Adreca_Per_Mostrar(adreca));
+  }
 }
 
 void Crear_Base(const Opcions_Installacio& opcions) {
@@ -208,37 +217,13 @@ void Crear_Buida(const Opcions_Installacio& opcions, const Primera_Empresa& empr
 
 void Crear_Terminal(const Opcions_Installacio& opcions) {
   Connexio comuna;
-  comuna.Open(Adreca_Compartida(opcions));  // it must be there and sound before a terminal points at it
+  comuna.Open(Adreca_Compartida(opcions));  // it must be there and serve before a terminal points at it
+  if (const int versio = Versio_De(comuna); versio != Versio_Del_Programa()) {
+    throw Error_Brollador(errors::general, "brollador-install",
+                          "the shared database is of version " + std::to_string(versio) + " and this program of " +
+                              std::to_string(Versio_Del_Programa()));
+  }
   Obra obra;
   Crear_Carpeta_Dades(opcions, obra);
   obra.Acabada();
-}
-
-void Executar_Fitxer(Connexio& connexio, std::string_view text) {
-  std::string sentencia;
-  for (std::size_t inici = 0; inici < text.size();) {
-    const std::size_t fi = std::min(text.find('\n', inici), text.size());
-    const std::string_view linia = text.substr(inici, fi - inici);
-    inici = fi + 1;
-    if (linia.starts_with("--")) continue;
-    sentencia.append(linia).append(1, '\n');
-    if (!linia.ends_with(';')) continue;
-    connexio.Execute(sentencia);
-    sentencia.clear();
-  }
-}
-
-void Carregar_Textos(Connexio& local) {
-  Recordset rs("SELECT * FROM TEXTS WHERE F_LANGUAGE = -1", local, Bloqueig::Optimista);
-  for (const auto& fila : Textos_De_Pantalles()) {
-    for (std::size_t idioma = 0; idioma < fila.text.size(); ++idioma) {
-      rs.AddNew();
-      rs.Set("F_OBJECT", fila.objecte);
-      rs.Set("F_LANGUAGE", static_cast<std::int64_t>(idioma));
-      rs.Set("F_CONTROL", fila.control);
-      rs.Set("F_PROPERTY", fila.propietat);
-      rs.Set("F_TEXT", fila.text[idioma]);
-      rs.Update();
-    }
-  }
 }

@@ -13,6 +13,9 @@ struct Opcions_Installacio {
   std::string compartida;  // address of the shared database; empty: comuna.db in the data folder
 };
 
+// Raises 1008 when a part of the installation stands already, before anybody is asked for anything.
+void Exigir_Lloc_Lliure(const Opcions_Installacio& opcions);
+
 // The base installation: one company, the administrator without a password, and the smallest reference tables.
 void Crear_Base(const Opcions_Installacio& opcions);
 void Crear_Base(const std::string& carpeta, const std::string& compartida = {});
@@ -32,7 +35,3 @@ void Crear_Terminal(const Opcions_Installacio& opcions);
 
 // The shared address of the options, as Brollador.ini holds it: a whole path whatever folder the program starts in.
 std::string Adreca_Compartida(const Opcions_Installacio& opcions);
-
-// Pieces, for whoever builds on an installation that is under way.
-void Executar_Fitxer(Connexio& connexio, std::string_view text);  // statements ended by ';', comments with --
-void Carregar_Textos(Connexio& local);                            // schema/textos into TEXTS

@@ -1,6 +1,13 @@
 -- The shared database: everything that the terminals of an office have in common.
 -- Written in the system's dialect (docs/dialect.md), one text for every engine.
 
+-- The version of these definitions: the highest number of schema/upgrades, in one row.
+
+CREATE TABLE VERSIO (
+  NUMERO_VER LLARG NOT NULL
+);
+
+
 -- Users, locks, languages, companies
 
 CREATE TABLE LANGUAGES (

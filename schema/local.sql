@@ -1,5 +1,11 @@
 -- The local database of a terminal: its parameters, the texts of its screens, and what printing and payments work on.
 
+-- The version of these definitions and of the texts, as a digest of them, in one row. A program that carries others makes
+-- the whole file anew and keeps the parameters.
+CREATE TABLE VERSIO (
+  EMPREMTA_VER CODI NOT NULL
+);
+
 -- One row a parameter. A key that stands twice is told at the start, so the table lets it in.
 CREATE TABLE CONFIGURACIO (
   Parametre CODI,

@@ -4,10 +4,15 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <vector>
 
 #include "core/M_Funcions_Comuns.h"
+#include "schema/Definicions.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -60,9 +65,50 @@ void Llegir_Ini() {
   sessio.Fitxer_Comu = Primer_Element(std::string(std::istreambuf_iterator<char>(fitxer), {}));
 }
 
+void Exigir_Versio() {
+  const int versio = Versio_De(sessio.Connexio_Comuna);
+  const int propia = Versio_Del_Programa();
+  if (versio == propia) return;
+  const std::string numeros = " (" + std::to_string(versio) + " / " + std::to_string(propia) + ")";
+  if (versio > propia) {
+    throw Error_Brollador(
+        errors::general, "Exigir_Versio",
+        Missatge("La base de dades compartida és més nova que aquest programa. Cal instal·lar-ne la darrera versió.",
+                 "La base de datos compartida es más nueva que este programa. Hay que instalar su última versión.",
+                 "The shared database is newer than this program. Its latest version has to be installed.") +
+            numeros);
+  }
+  throw Error_Brollador(errors::general, "Exigir_Versio",
+                        Missatge("La base de dades compartida és d'una versió anterior. L'administrador l'ha de posar "
+                                 "al dia amb \"brollador-install --upgrade\".",
+                                 "La base de datos compartida es de una versión anterior. El administrador debe "
+                                 "ponerla al día con \"brollador-install --upgrade\".",
+                                 "The shared database is of an earlier version. The administrator has to bring it up "
+                                 "with \"brollador-install --upgrade\".") +
+                            numeros);
+}
+
 void Obrir_Connexions() {
   sessio.Connexio_Comuna.Open(sessio.Fitxer_Comu);
+  Exigir_Versio();
   sessio.Connexio_Local.Open(sessio.Fitxer_Locals);
+  if (Es_Local_Al_Dia(sessio.Connexio_Local)) return;
+  sessio.Connexio_Local.Close();
+  Renovar_Local(sessio.Fitxer_Locals);
+  sessio.Connexio_Local.Open(sessio.Fitxer_Locals);
+}
+
+void Tancar_Als_Altres() {
+  std::error_code ignorat;  // what is somebody else's stays as its owner wants it
+  const fs::path carpeta(sessio.Dir_Dades);
+  std::vector<fs::path> carpetes = {sessio.Dir_Copia, sessio.Dir_Temp};
+  const bool compartida_a_dins =
+      fs::path(sessio.Fitxer_Comu).lexically_normal().parent_path() == carpeta.lexically_normal();
+  if (!compartida_a_dins) carpetes.push_back(carpeta);
+  for (const auto& cami : carpetes) fs::permissions(cami, fs::perms::owner_all, ignorat);
+  for (const auto& cami : {sessio.Fitxer_Ini, sessio.Fitxer_Locals}) {
+    fs::permissions(cami, fs::perms::owner_read | fs::perms::owner_write, ignorat);
+  }
 }
 
 void Tancar_Connexions() {
@@ -91,6 +137,7 @@ void Preparar_Inici() {
     if (error.Numero() != errors::fitxer_no_trobat) throw;
   }
   Obrir_Connexions();
+  Tancar_Als_Altres();
   Carregar_Parametres();
 }
 

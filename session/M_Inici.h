@@ -9,9 +9,15 @@ void Fixar_Directoris();
 std::string Nom_Equip();
 // Reads Fitxer_Ini into Fitxer_Comu: one item, with or without double quotes, cut at the first comma. Raises 53.
 void Llegir_Ini();
-// Shared database first, then the local one. Raises the engine's error.
+// Raises unless the open shared database (VERSIO) is of this program's version; the text tells who is to be renewed.
+void Exigir_Versio();
+// Shared database first, then the local one, which is made anew when it is another program's. Raises the engine's
+// error, and that of Exigir_Versio.
 void Obrir_Connexions();
 void Tancar_Connexions();
+// The data folder of an older installation becomes the user's alone; when the shared database lies in it, what it holds
+// of this terminal does.
+void Tancar_Als_Altres();
 // CONFIGURACIO (local) into Parametres; a key that stands twice raises an error.
 void Carregar_Parametres();
 

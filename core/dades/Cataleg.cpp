@@ -35,6 +35,12 @@ void Cataleg::Afegir(Taula taula) {
   taules_[Plegar(taula.nom)] = std::move(taula);
 }
 
+void Cataleg::Afegir_Columnes(const Taula& noves) {
+  Taula taula = taules_[Plegar(noves.nom)];
+  taula.columnes.insert(taula.columnes.end(), noves.columnes.begin(), noves.columnes.end());
+  Afegir(std::move(taula));
+}
+
 const Taula* Cataleg::Cercar(std::string_view nom) const {
   const auto it = taules_.find(Plegar(nom));
   return it == taules_.end() ? nullptr : &it->second;

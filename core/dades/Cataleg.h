@@ -39,6 +39,8 @@ struct Camp {
 class Cataleg {
  public:
   void Afegir(Taula taula);
+  // New columns of a table that is there.
+  void Afegir_Columnes(const Taula& noves);
   const Taula* Cercar(std::string_view nom) const;            // any case
   const Columna* Cercar_Columna(std::string_view nom) const;  // in any table; column names are unique in practice
   const std::map<std::string, Taula>& Taules() const { return taules_; }

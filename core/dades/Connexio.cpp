@@ -6,16 +6,13 @@
 #include "core/dades/Motor.h"
 #include "core/dades/Parametres_Sentencia.h"
 
-bool Es_De_Servidor(const std::string& adreca) {
-  return adreca.starts_with("postgresql://") || adreca.starts_with("postgres://");
-}
-
 Connexio::Connexio() = default;
 Connexio::~Connexio() = default;
 
 void Connexio::Open(const std::string& adreca, int espera) {
   // An empty path would be a database of the engine's own making, gone at the end.
   if (adreca.empty()) throw Error_Brollador(errors::general, "Connexio", "unable to open database file (14)");
+  Exigir_Adreca(adreca);
   motor_ = Es_De_Servidor(adreca) ? Obrir_Motor_PostgreSQL(adreca, espera) : Obrir_Motor_SQLite(adreca, espera);
   adreca_ = adreca;
 }
@@ -91,9 +88,24 @@ std::string Connexio::Comprovar_Integritat() {
   return motor().Comprovar_Integritat();
 }
 
+void Connexio::Renovar_Funcions() {
+  motor().Renovar_Funcions();
+}
+
 void Crear_Base_Dades(const std::string& adreca) {
+  Exigir_Adreca(adreca);
   if (Es_De_Servidor(adreca)) return Crear_Base_PostgreSQL(adreca);
   Crear_Fitxer_SQLite(adreca);
+}
+
+bool Base_Dades_Ocupada(const std::string& adreca) {
+  Exigir_Adreca(adreca);
+  return Es_De_Servidor(adreca) ? Base_PostgreSQL_Ocupada(adreca) : std::filesystem::exists(adreca);
+}
+
+void Copiar_Base_Dades(const std::string& adreca, const std::string& desti) {
+  if (Es_De_Servidor(adreca)) return Copiar_Base_PostgreSQL(adreca, desti);
+  Copiar_Fitxer_SQLite(adreca, desti);
 }
 
 void Esborrar_Base_Dades(const std::string& adreca) {

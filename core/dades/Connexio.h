@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/dades/Adreca.h"
 #include "core/dades/Cataleg.h"
 #include "core/dades/Valor.h"
 
@@ -59,6 +60,9 @@ class Connexio {
   // Empty when the database is sound, else what is wrong with it, in the engine's words.
   std::string Comprovar_Integritat();
 
+  // Functions of ours that live in the database become those of this program.
+  void Renovar_Funcions();
+
   Motor& motor();  // for Recordset
 
  private:
@@ -66,12 +70,15 @@ class Connexio {
   std::string adreca_;
 };
 
-// postgresql://...: a server's database, not a file.
-bool Es_De_Servidor(const std::string& adreca);
 // Creates a new, empty database at the address for Open and CREATE TABLE: a file that does not exist yet, or our
 // tables' place in a server's database (made too when the server has none of that name). Raises 1008 when there is an
 // installation already.
 void Crear_Base_Dades(const std::string& adreca);
+// There is something at the address that Crear_Base_Dades would not write over.
+bool Base_Dades_Ocupada(const std::string& adreca);
+// A copy of the whole database at another address, where nothing is yet: another file, or another database of the same
+// server, to which nobody may be connected meanwhile. Raises 1008 when the file is there.
+void Copiar_Base_Dades(const std::string& adreca, const std::string& desti);
 // Takes away what Crear_Base_Dades and the definitions after it made. A server's database itself stays.
 void Esborrar_Base_Dades(const std::string& adreca);
 

@@ -42,16 +42,32 @@ void Llegir_Clau(const Mots& mots, Tram item, Taula& taula) {
   }
 }
 
+// ALTER TABLE t ADD COLUMN c TYPE ...
+Definicio Llegir_Columna_Nova(const Mots& mots, const std::vector<Valor>& literals) {
+  constexpr std::size_t nom = 5;
+  if (mots.size() < nom + 2 || !Es(mots[1], "TABLE") || !Es(mots[3], "ADD") || !Es(mots[4], "COLUMN")) {
+    Sentencia_Erronia("ALTER");
+  }
+  Definicio definicio;
+  definicio.afegeix = true;
+  definicio.taula =
+      Taula{.nom = mots[2].text, .columnes = {{mots[nom].text, Tipus_Declarat(mots[nom + 1].text)}}, .clau = {}};
+  definicio.columnes.push_back(Unir(mots, {nom + 2, mots.size()}, literals));
+  return definicio;
+}
+
 }  // namespace
 
 bool Es_Definicio(std::string_view sentencia) {
   const std::size_t inici = sentencia.find_first_not_of(" \t\r\n");
-  return inici != std::string_view::npos && Iguals_Plegats(sentencia.substr(inici, 7), "CREATE ");
+  if (inici == std::string_view::npos) return false;
+  return Iguals_Plegats(sentencia.substr(inici, 7), "CREATE ") || Iguals_Plegats(sentencia.substr(inici, 6), "ALTER ");
 }
 
 Definicio Llegir_Definicio(std::string_view sentencia) {
   const Sentencia_Escanejada escanejada = Escanejar(sentencia);
   const Mots mots = Partir(escanejada.forma);
+  if (!mots.empty() && Es(mots[0], "ALTER")) return Llegir_Columna_Nova(mots, escanejada.literals);
   Definicio definicio;
   if (mots.size() < 5 || !Es(mots[1], "TABLE")) {
     definicio.text = Unir(mots, {0, mots.size()}, escanejada.literals);

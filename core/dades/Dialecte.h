@@ -51,9 +51,10 @@ struct Sentencia_Traduida {
 Sentencia_Traduida Traduir(const std::string& forma, const Cataleg& taules, const Trets_Motor& trets,
                            std::string_view taula_editable = {});
 
-// A definition: CREATE TABLE with the dialect's types, or CREATE INDEX.
+// A definition: CREATE TABLE with the dialect's types, ALTER TABLE t ADD COLUMN, or CREATE INDEX.
 struct Definicio {
   std::optional<Taula> taula;         // none for an index
+  bool afegeix = false;               // `taula` exists already, and this is its new column
   std::vector<std::string> columnes;  // the rest of each column's text (NOT NULL, DEFAULT...), as many as in `taula`
   std::vector<std::string> regles;    // keys and relations
   std::string text;                   // of an index, as it stands

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <utility>
 
+#include "core/dades/Adreca.h"
 #include "core/dades/Dates.h"
 #include "core/dades/Error_Brollador.h"
 
@@ -63,6 +64,7 @@ void Callar(void* /*qui*/, const PGresult* /*avis*/) {}
 }  // namespace
 
 Enllac_PostgreSQL::Enllac_PostgreSQL(std::string adreca, int espera) : adreca_(std::move(adreca)), espera_(espera) {
+  Exigir_Adreca(adreca_);
   // An address tells what it wants; the rest is for a server that does not answer.
   const char* claus[] = {
       "dbname", "client_encoding", "connect_timeout", "tcp_user_timeout", "keepalives_idle", "application_name",

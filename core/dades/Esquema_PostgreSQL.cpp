@@ -54,11 +54,11 @@ std::string Funcio_Plegar(const std::string& esquema) {
   constexpr std::uint32_t fi_llati = 0x250;
   std::string ultima_llatina;
   Afegir_Caracter(ultima_llatina, fi_llati - 1);
-  return "CREATE FUNCTION " + esquema +
+  return "CREATE OR REPLACE FUNCTION " + esquema +
          ".plegar_lletres(t text) RETURNS text LANGUAGE plpgsql IMMUTABLE STRICT PARALLEL SAFE AS $f$ BEGIN\n"
          "IF t COLLATE \"C\" ~ '^[\x01-" +
          ultima_llatina + "]*$' THEN RETURN " + Traduccio_De_Lletres(fi_llati) + "; END IF;\nRETURN " +
-         Traduccio_De_Lletres(0x110000) + "; END $f$; CREATE FUNCTION " + esquema +
+         Traduccio_De_Lletres(0x110000) + "; END $f$; CREATE OR REPLACE FUNCTION " + esquema +
          ".plegar(t text) RETURNS text LANGUAGE sql IMMUTABLE PARALLEL SAFE AS $f$ SELECT CASE WHEN octet_length(t) = "
          "length(t) THEN lower(t COLLATE \"C\") ELSE " +
          esquema + ".plegar_lletres(t) END $f$";
@@ -66,26 +66,26 @@ std::string Funcio_Plegar(const std::string& esquema) {
 
 // NOW tells the server's own time, whatever zone a terminal lives in.
 constexpr const char* funcions = R"(
-CREATE FUNCTION {e}.br_now() RETURNS timestamp(0) LANGUAGE sql VOLATILE AS
+CREATE OR REPLACE FUNCTION {e}.br_now() RETURNS timestamp(0) LANGUAGE sql VOLATILE AS
 $f$ SELECT date_trunc('second', clock_timestamp())::timestamp(0) $f$;
-CREATE FUNCTION {e}.br_dateserial(a bigint, m bigint, d bigint) RETURNS date LANGUAGE sql IMMUTABLE STRICT AS
+CREATE OR REPLACE FUNCTION {e}.br_dateserial(a bigint, m bigint, d bigint) RETURNS date LANGUAGE sql IMMUTABLE STRICT AS
 $f$ SELECT (make_date((a + floor((m - 1) / 12.0))::int, 1 + ((m - 1) % 12 + 12)::int % 12, 1) + (d - 1)::int) $f$;
-CREATE FUNCTION {e}.br_dateserial(a double precision, m double precision, d double precision) RETURNS date LANGUAGE sql
+CREATE OR REPLACE FUNCTION {e}.br_dateserial(a double precision, m double precision, d double precision) RETURNS date LANGUAGE sql
 IMMUTABLE STRICT AS $f$ SELECT {e}.br_dateserial(trunc(a)::bigint, trunc(m)::bigint, trunc(d)::bigint) $f$;
-CREATE FUNCTION {e}.br_datepart(part text, x timestamp) RETURNS integer LANGUAGE plpgsql IMMUTABLE STRICT AS
+CREATE OR REPLACE FUNCTION {e}.br_datepart(part text, x timestamp) RETURNS integer LANGUAGE plpgsql IMMUTABLE STRICT AS
 $f$ BEGIN
   IF lower(part) NOT IN ('m', 'd', 'yyyy') THEN RAISE EXCEPTION 'DATEPART' USING ERRCODE = '42883'; END IF;
   RETURN CASE lower(part) WHEN 'm' THEN extract(month FROM x) WHEN 'd' THEN extract(day FROM x)
                           ELSE extract(year FROM x) END;
 END $f$;
-CREATE FUNCTION {e}.br_day(x timestamp) RETURNS integer LANGUAGE sql IMMUTABLE STRICT AS
+CREATE OR REPLACE FUNCTION {e}.br_day(x timestamp) RETURNS integer LANGUAGE sql IMMUTABLE STRICT AS
 $f$ SELECT extract(day FROM x)::int $f$;
-CREATE FUNCTION {e}.br_isnumeric(t text) RETURNS integer LANGUAGE sql IMMUTABLE AS
+CREATE OR REPLACE FUNCTION {e}.br_isnumeric(t text) RETURNS integer LANGUAGE sql IMMUTABLE AS
 $f$ SELECT CASE WHEN btrim(coalesce(t, '')) COLLATE "C" ~
   '^[$]?[ ]*[-+]?((([0-9]+|[0-9]{1,3}([.][0-9]{3})+)(,[0-9]*)?)|(,[0-9]+))([eE][-+]?[0-9]+)?$' THEN -1 ELSE 0 END $f$;
-CREATE FUNCTION {e}.br_isnumeric(x double precision) RETURNS integer LANGUAGE sql IMMUTABLE AS
+CREATE OR REPLACE FUNCTION {e}.br_isnumeric(x double precision) RETURNS integer LANGUAGE sql IMMUTABLE AS
 $f$ SELECT CASE WHEN x IS NULL THEN 0 ELSE -1 END $f$;
-CREATE FUNCTION {e}.br_round(x double precision, n bigint) RETURNS double precision LANGUAGE sql IMMUTABLE STRICT AS
+CREATE OR REPLACE FUNCTION {e}.br_round(x double precision, n bigint) RETURNS double precision LANGUAGE sql IMMUTABLE STRICT AS
 $f$ SELECT ((CASE WHEN abs(v - trunc(v)) = 0.5 THEN 2 * round(v / 2) ELSE round(v) END) / 10::numeric ^ n)::double precision
       FROM (SELECT x::numeric * (10::numeric ^ n) AS v) AS escalat $f$;
 )";
@@ -184,12 +184,23 @@ std::string Definir_Index(const std::string& text, const Cataleg& taules) {
 }  // namespace
 
 std::vector<std::string> Definicions_Inicials(const std::string& esquema) {
-  return {Funcio_Plegar(esquema), Posar_Esquema(funcions, esquema),
-          R"(CREATE TABLE "ESQUEMA" ("ORDRE" integer GENERATED ALWAYS AS IDENTITY PRIMARY KEY, "TAULA" text NOT NULL, )"
-          R"("COLUMNA" text NOT NULL, "TIPUS" text NOT NULL, "CLAU" integer NOT NULL))"};
+  auto definicions = Funcions_PostgreSQL(esquema);
+  definicions.emplace_back(
+      R"(CREATE TABLE "ESQUEMA" ("ORDRE" integer GENERATED ALWAYS AS IDENTITY PRIMARY KEY, "TAULA" text NOT NULL, )"
+      R"("COLUMNA" text NOT NULL, "TIPUS" text NOT NULL, "CLAU" integer NOT NULL))");
+  return definicions;
+}
+
+std::vector<std::string> Funcions_PostgreSQL(const std::string& esquema) {
+  return {Funcio_Plegar(esquema), Posar_Esquema(funcions, esquema)};
 }
 
 std::vector<std::string> Definicions_PostgreSQL(const Definicio& definicio, const Cataleg& taules) {
+  if (definicio.afegeix) {
+    const Columna& columna = definicio.taula->columnes.front();
+    return {"ALTER TABLE " + Citat(definicio.taula->nom) + " ADD COLUMN " + Citat(columna.nom) + " " +
+            tipus_desats[static_cast<std::size_t>(columna.tipus)] + definicio.columnes.front()};
+  }
   if (definicio.taula) return Definir_Taula(definicio, taules);
   return {Definir_Index(definicio.text, taules)};
 }

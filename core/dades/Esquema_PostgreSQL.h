@@ -13,8 +13,10 @@
 
 // Statements that prepare an empty database. `esquema`: the server's schema where they go.
 std::vector<std::string> Definicions_Inicials(const std::string& esquema);
+// The functions of them alone, to be put over those of an older program.
+std::vector<std::string> Funcions_PostgreSQL(const std::string& esquema);
 
-// A table or an index of the dialect.
+// A table, a new column or an index of the dialect.
 std::vector<std::string> Definicions_PostgreSQL(const Definicio& definicio, const Cataleg& taules);
 
 extern const char* const clau_oculta_postgresql;  // a column of every table, quoted

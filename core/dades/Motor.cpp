@@ -1,5 +1,6 @@
 #include "core/dades/Motor.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
@@ -18,23 +19,30 @@ Tipus_Columna Tipus_Apuntat(const std::string& nom) {
 }  // namespace
 
 Cataleg Llegir_Esquema(const Files_Memoria& files) {
-  Cataleg taules;
-  Taula taula;
-  std::map<std::int64_t, std::string> clau;
-  const auto tancar = [&] {
-    if (taula.nom.empty()) return;
-    for (const auto& [lloc, columna] : clau) taula.clau.push_back(columna);
-    taules.Afegir(std::exchange(taula, {}));
-    clau.clear();
+  struct Apuntada {
+    Taula taula;
+    std::map<std::int64_t, std::string> clau;
+  };
+  std::vector<Apuntada> apuntades;
+  // The rows of a table stand together, but for columns that were added later.
+  const auto de_nom = [&](const std::string& nom) -> Apuntada& {
+    const auto it = std::find_if(apuntades.rbegin(), apuntades.rend(),
+                                 [&](const Apuntada& apuntada) { return apuntada.taula.nom == nom; });
+    if (it != apuntades.rend()) return *it;
+    apuntades.push_back({.taula = {.nom = nom, .columnes = {}, .clau = {}}, .clau = {}});
+    return apuntades.back();
   };
   for (std::size_t i = 0; i < files.Files(); ++i) {
     const auto text = [&](std::size_t columna) { return files.Valor_De(i, columna, Tipus_Columna::Text).Text(); };
-    if (text(0) != taula.nom) tancar();
-    taula.nom = text(0);
-    taula.columnes.push_back({text(1), Tipus_Apuntat(text(2))});
-    if (const auto lloc = files.Llegir(i, 3).enter; lloc > 0) clau.emplace(lloc, text(1));
+    Apuntada& apuntada = de_nom(text(0));
+    apuntada.taula.columnes.push_back({text(1), Tipus_Apuntat(text(2))});
+    if (const auto lloc = files.Llegir(i, 3).enter; lloc > 0) apuntada.clau.emplace(lloc, text(1));
   }
-  tancar();
+  Cataleg taules;
+  for (Apuntada& apuntada : apuntades) {
+    for (const auto& [lloc, columna] : apuntada.clau) apuntada.taula.clau.push_back(columna);
+    taules.Afegir(std::move(apuntada.taula));
+  }
   return taules;
 }
 

@@ -38,8 +38,10 @@ class Motor {
   // A read that will be wanted soon, in this transaction: it may travel behind the next statement. Consultar of the
   // same statement then finds its answer, unless its tables were written meanwhile.
   virtual void Demanar(const std::string& /*sql*/, const std::vector<Valor>& /*parametres*/) {}
-  // A definition of a table or index, entered in the catalogue.
+  // A definition of a table, a column or an index, entered in the catalogue.
   virtual void Definir(const Definicio& definicio) = 0;
+  // Functions of ours that live in the database become those of this program.
+  virtual void Renovar_Funcions() {}
 
   virtual void BeginTrans() = 0;
   virtual void CommitTrans() = 0;
@@ -86,8 +88,12 @@ std::int64_t Empremta_Fila(const std::string& taula, const Valor& clau);
 std::unique_ptr<Motor> Obrir_Motor_PostgreSQL(const std::string& adreca, int espera);
 // Makes the database when the server has none of that name. Raises 1008 when it holds an installation already.
 void Crear_Base_PostgreSQL(const std::string& adreca);
+bool Base_PostgreSQL_Ocupada(const std::string& adreca);  // it holds an installation
+// Raises when somebody is connected to it.
+void Copiar_Base_PostgreSQL(const std::string& adreca, const std::string& desti);
 // Takes away what Crear_Base_PostgreSQL and the definitions after it made.
 void Esborrar_Base_PostgreSQL(const std::string& adreca);
 
 std::unique_ptr<Motor> Obrir_Motor_SQLite(const std::string& cami, int espera);
 void Crear_Fitxer_SQLite(const std::string& cami);
+void Copiar_Fitxer_SQLite(const std::string& cami, const std::string& desti);

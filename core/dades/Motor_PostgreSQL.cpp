@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 
+#include "core/dades/Adreca.h"
 #include "core/dades/Enllac_PostgreSQL.h"
 #include "core/dades/Error_Brollador.h"
 #include "core/dades/Esquema_PostgreSQL.h"
@@ -29,6 +30,15 @@ bool Escriu(std::string_view sql) {
 int Files_Tocades(const PGresult* resultat) {
   const char* text = resultat == nullptr ? "" : PQcmdTuples(const_cast<PGresult*>(resultat));
   return *text == '\0' ? 0 : std::stoi(text);
+}
+
+std::string Primer_Text(const Resultat_PG& resultat) {
+  return PQntuples(resultat.get()) == 0 ? std::string() : PQgetvalue(resultat.get(), 0, 0);
+}
+
+// Where our tables and functions stand, quoted.
+std::string Esquema_Actual(Enllac_PostgreSQL& enllac) {
+  return Primer_Text(enllac.Executar_Directe("SELECT quote_ident(current_schema())"));
 }
 
 class Motor_PostgreSQL final : public Motor {
@@ -73,8 +83,18 @@ class Motor_PostgreSQL final : public Motor {
       }
     }
     Enviar();
-    if (definicio.taula) taules_.Afegir(*definicio.taula);
+    if (definicio.afegeix) {
+      taules_.Afegir_Columnes(*definicio.taula);
+    } else if (definicio.taula) {
+      taules_.Afegir(*definicio.taula);
+    }
     noms_columnes_.clear();
+  }
+
+  void Renovar_Funcions() override {
+    Preparar_Cami(true);
+    Enviar();
+    for (const auto& sql : Funcions_PostgreSQL(Esquema_Actual(enllac_))) enllac_.Executar_Directe(sql);
   }
 
   void BeginTrans() override { marcada_ = true; }
@@ -283,23 +303,24 @@ class Motor_PostgreSQL final : public Motor {
   bool trencada_ = false;   // nothing of the transaction is left
 };
 
-std::string Nom_De_Base(const std::string& adreca) {
-  std::string nom = adreca.substr(adreca.find("://") + 3);
-  nom = nom.substr(0, nom.find('?'));
-  const std::size_t barra = nom.find('/');
-  return barra == std::string::npos ? std::string() : nom.substr(barra + 1);
+constexpr const char* base_de_tothom = "postgres";  // the one that every server has
+
+std::string Exigir_Base(const std::string& adreca) {
+  const std::string nom = Base_De_Adreca(adreca);
+  if (nom.empty() || nom.find('"') != std::string::npos) {
+    throw Error_Brollador(errors::general, "PostgreSQL",
+                          "the address names no database: " + Adreca_Per_Mostrar(adreca));
+  }
+  return nom;
 }
 
-// The same server, another database of it.
-std::string Amb_Base(const std::string& adreca, const std::string& base) {
-  const std::string nom = Nom_De_Base(adreca);
-  std::string altra = adreca;
-  altra.replace(adreca.find(nom, adreca.find("://") + 3), nom.size(), base);
-  return altra;
+bool Hi_Ha_Base(Enllac_PostgreSQL& servidor, const std::string& nom) {
+  servidor.Encuar("SELECT datname FROM pg_database WHERE datname = $1", {nom});
+  return !Primer_Text(servidor.Enviar().front()).empty();
 }
 
-std::string Primer_Text(const Resultat_PG& resultat) {
-  return PQntuples(resultat.get()) == 0 ? std::string() : PQgetvalue(resultat.get(), 0, 0);
+bool Hi_Ha_Installacio(Enllac_PostgreSQL& base) {
+  return !Primer_Text(base.Executar_Directe(R"(SELECT to_regclass('"ESQUEMA"')::text)")).empty();
 }
 
 }  // namespace
@@ -308,27 +329,34 @@ std::unique_ptr<Motor> Obrir_Motor_PostgreSQL(const std::string& adreca, int esp
   return std::make_unique<Motor_PostgreSQL>(adreca, espera);
 }
 
+bool Base_PostgreSQL_Ocupada(const std::string& adreca) {
+  const std::string nom = Exigir_Base(adreca);
+  Enllac_PostgreSQL servidor(Amb_Base(adreca, base_de_tothom), 0);
+  if (!Hi_Ha_Base(servidor, nom)) return false;
+  Enllac_PostgreSQL base(adreca, 0);
+  return Hi_Ha_Installacio(base);
+}
+
 void Crear_Base_PostgreSQL(const std::string& adreca) {
-  const std::string nom = Nom_De_Base(adreca);
-  if (nom.empty() || nom.find('"') != std::string::npos) {
-    throw Error_Brollador(errors::general, "PostgreSQL", "the address names no database: " + adreca);
-  }
-  Enllac_PostgreSQL servidor(Amb_Base(adreca, "postgres"), 0);
-  servidor.Encuar("SELECT datname FROM pg_database WHERE datname = $1", {nom});
-  if (Primer_Text(servidor.Enviar().front()).empty()) {
+  const std::string nom = Exigir_Base(adreca);
+  Enllac_PostgreSQL servidor(Amb_Base(adreca, base_de_tothom), 0);
+  if (!Hi_Ha_Base(servidor, nom)) {
     servidor.Executar_Directe("CREATE DATABASE \"" + nom + "\" ENCODING 'UTF8' TEMPLATE template0");
   }
   Enllac_PostgreSQL base(adreca, 0);
   if (Primer_Text(base.Executar_Directe("SHOW server_encoding")) != "UTF8") {
     throw Error_Brollador(errors::general, "PostgreSQL", "the database is not in UTF8: " + nom);
   }
-  if (!Primer_Text(base.Executar_Directe(R"(SELECT to_regclass('"ESQUEMA"')::text)")).empty()) {
-    Llancar_Error(errors::fitxer_existent, "PostgreSQL", nom);
-  }
-  const std::string esquema = Primer_Text(base.Executar_Directe("SELECT quote_ident(current_schema())"));
+  if (Hi_Ha_Installacio(base)) Llancar_Error(errors::fitxer_existent, "PostgreSQL", nom);
   std::string tot = "BEGIN;";
-  for (const auto& sql : Definicions_Inicials(esquema)) tot += sql + ";";
+  for (const auto& sql : Definicions_Inicials(Esquema_Actual(base))) tot += sql + ";";
   base.Executar_Directe(tot + "COMMIT");
+}
+
+// The server copies a database by itself, file by file, as long as nobody is connected to it.
+void Copiar_Base_PostgreSQL(const std::string& adreca, const std::string& desti) {
+  Enllac_PostgreSQL servidor(Amb_Base(adreca, base_de_tothom), 0);
+  servidor.Executar_Directe("CREATE DATABASE \"" + Exigir_Base(desti) + "\" TEMPLATE \"" + Exigir_Base(adreca) + "\"");
 }
 
 void Esborrar_Base_PostgreSQL(const std::string& adreca) {

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <list>
 #include <unordered_map>
 
@@ -122,6 +123,7 @@ class Motor_SQLite final : public Motor {
     Comencar_Si_Cal();
     if (!definicio.taula) return Executar_Directe(definicio.text);
     const Taula& taula = *definicio.taula;
+    if (definicio.afegeix) return Afegir_Columna(taula, definicio.columnes.front());
     std::string sql = "CREATE TABLE " + taula.nom + " (";
     bool clau_propia = false;
     for (std::size_t i = 0; i < taula.columnes.size(); ++i) {
@@ -291,6 +293,14 @@ class Motor_SQLite final : public Motor {
     taules_ = Llegir_Esquema(files);
   }
 
+  void Afegir_Columna(const Taula& taula, const std::string& resta) {
+    const Columna& columna = taula.columnes.front();
+    Executar_Directe("ALTER TABLE " + taula.nom + " ADD COLUMN " + columna.nom + " " +
+                     tipus_desats[static_cast<std::size_t>(columna.tipus)] + resta);
+    Apuntar_Columnes(taula);
+    taules_.Afegir_Columnes(taula);
+  }
+
   void Apuntar_Columnes(const Taula& taula) {
     for (const auto& fila : Files_Esquema(taula)) {
       Executar("INSERT INTO ESQUEMA (TAULA, COLUMNA, TIPUS, CLAU) VALUES (?1, ?2, ?3, ?4)", fila);
@@ -327,4 +337,22 @@ void Crear_Fitxer_SQLite(const std::string& cami) {
   if (sqlite3_exec(base.get(), esquema, nullptr, nullptr, nullptr) != SQLITE_OK) {
     throw Error_Brollador(errors::general, "SQLite", sqlite3_errmsg(base.get()));
   }
+}
+
+void Copiar_Fitxer_SQLite(const std::string& cami, const std::string& desti) {
+  if (std::filesystem::exists(desti)) Llancar_Error(errors::fitxer_existent, "SQLite", desti);
+  const Base origen = Obrir_Base(cami, SQLITE_OPEN_READWRITE);
+  int espera = 8000;  // milliseconds for a terminal that is writing
+  sqlite3_busy_handler(origen.get(), Esperar_Torn, &espera);
+  const Base copia = Obrir_Base(desti, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  sqlite3_backup* feina = sqlite3_backup_init(copia.get(), "main", origen.get(), "main");
+  if (feina != nullptr) {
+    sqlite3_backup_step(feina, -1);
+    sqlite3_backup_finish(feina);
+  }
+  if (const int codi = sqlite3_errcode(copia.get()); codi != SQLITE_OK) {
+    throw Error_Brollador(errors::general, "SQLite",
+                          std::string(sqlite3_errmsg(copia.get())) + " (" + std::to_string(codi) + "): " + desti);
+  }
+  std::filesystem::permissions(desti, std::filesystem::status(cami).permissions());
 }

@@ -15,11 +15,17 @@ const std::vector<std::string> taules_comunes = {"ALBALMCAP",     "ALBALMLIN",  
                                                  "LOCKS",         "MARQUES",         "MOVIMIENTOS",   "PAGAMENTS",
                                                  "PRESSUPOSTCAP", "PRESSUPOSTLIN",   "PRESSUPOSTPEU", "PROVEIDORS",
                                                  "REBUTS",        "STOCK",           "SUBFAMILIES",   "USUARIS",
-                                                 "VENCIMENTS"};
-const std::vector<std::string> taules_locals = {
-    "ALBARALIN_VALORAT_IMPR", "CHECK_FLAG_PAGAMENTS_TEMP",  "COMANDALIN_VALORAT_IMPR",
-    "CONFIGURACIO",           "FACTURALIN_VALORAT_IMPR",    "FLAG_PAGAMENTS_TEMP",
-    "PAGAMENTS_CLIENT",       "PRESSUPOSTLIN_VALORAT_IMPR", "TEXTS"};
+                                                 "VENCIMENTS",    "VERSIO"};
+const std::vector<std::string> taules_locals = {"ALBARALIN_VALORAT_IMPR",
+                                                "CHECK_FLAG_PAGAMENTS_TEMP",
+                                                "COMANDALIN_VALORAT_IMPR",
+                                                "CONFIGURACIO",
+                                                "FACTURALIN_VALORAT_IMPR",
+                                                "FLAG_PAGAMENTS_TEMP",
+                                                "PAGAMENTS_CLIENT",
+                                                "PRESSUPOSTLIN_VALORAT_IMPR",
+                                                "TEXTS",
+                                                "VERSIO"};
 
 std::vector<std::string> Noms(const Connexio& connexio) {
   std::vector<std::string> noms;

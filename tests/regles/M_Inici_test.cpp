@@ -156,3 +156,27 @@ TEST_F(Inici, the_box_of_a_failed_start_gives_number_and_words_under_its_first_l
   EXPECT_EQ(Text_Inici_Fallit(Error_Brollador(14, "", "unable to open database file")),
             "Avui no estàs de sort !!!, \n14/unable to open database file");
 }
+
+TEST_F(Inici, the_folder_of_an_older_installation_becomes_the_users_alone) {
+  const auto tothom = std::filesystem::perms::all;
+  Fixar_Directoris();
+  const std::string compartida = carpeta.Cami() + "/comuna.db";
+  Crear_Base(sessio.Dir_Dades, compartida);
+  for (const auto& cami : {sessio.Dir_Dades, sessio.Fitxer_Ini, sessio.Fitxer_Locals}) {
+    std::filesystem::permissions(cami, tothom);
+  }
+  Preparar_Inici();
+  const auto drets = [](const std::string& cami) { return std::filesystem::status(cami).permissions(); };
+  EXPECT_EQ(drets(sessio.Dir_Dades), std::filesystem::perms::owner_all);
+  EXPECT_EQ(static_cast<int>(drets(sessio.Fitxer_Ini)), 0600);
+  EXPECT_EQ(static_cast<int>(drets(sessio.Fitxer_Locals)), 0600);
+}
+
+TEST_F(Inici, a_folder_that_holds_the_shared_database_stays_as_its_owner_wants_it) {
+  Installar();
+  std::filesystem::permissions(sessio.Dir_Dades, std::filesystem::perms::all);
+  std::filesystem::permissions(sessio.Dir_Temp, std::filesystem::perms::all);
+  Preparar_Inici();
+  EXPECT_EQ(std::filesystem::status(sessio.Dir_Dades).permissions(), std::filesystem::perms::all);
+  EXPECT_EQ(std::filesystem::status(sessio.Dir_Temp).permissions(), std::filesystem::perms::owner_all);
+}

@@ -63,7 +63,8 @@ Base_Servidor::Base_Servidor(const std::string& model) : nom_(Nom_Nou()) {
 
 Base_Servidor::~Base_Servidor() {
   try {
-    Manar("DROP DATABASE IF EXISTS " + nom_ + " WITH (FORCE)");
+    Esborrar(nom_);
+    if (tocaio_) Manar("DROP ROLE " + nom_);
   } catch (const std::runtime_error&) {
     return;  // a server that a test took away
   }
@@ -71,6 +72,17 @@ Base_Servidor::~Base_Servidor() {
 
 std::string Base_Servidor::Adreca() const {
   return Adreca_De(nom_);
+}
+
+std::string Base_Servidor::Adreca_Del_Tocaio() {
+  if (!tocaio_) Manar("CREATE ROLE " + nom_ + " LOGIN SUPERUSER");
+  tocaio_ = true;
+  std::string adreca = Adreca();
+  return adreca.insert(adreca.find("///") + 2, nom_ + "@") + "&user=" + nom_;
+}
+
+void Base_Servidor::Esborrar(const std::string& nom) {
+  Manar("DROP DATABASE IF EXISTS " + nom + " WITH (FORCE)");
 }
 
 void Base_Servidor::Tallar() const {

@@ -24,12 +24,17 @@ class Base_Servidor {
 
   const std::string& Nom() const { return nom_; }
   std::string Adreca() const;
+  // The same by the way of a user who has the database's name.
+  std::string Adreca_Del_Tocaio();
   // Ends every connection to it, as a server that is restarted does.
   void Tallar() const;
   // It goes away, until it is asked to come back: nobody is connected, nobody gets in.
   void Marxar() const;
   void Tornar() const;
+  // One that a test made there by other means.
+  static void Esborrar(const std::string& nom);
 
  private:
   std::string nom_;
+  bool tocaio_ = false;  // there is a user of its name
 };
