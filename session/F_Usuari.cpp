@@ -9,6 +9,7 @@ F_Usuari::F_Usuari() : Fitxa(QStringLiteral("F_Usuari"), "USUARIS"), ui_(std::ma
   Boto_Sortir(ui_->B_Exit);
   Exigir(ui_->TXT_ACTIU_USU,
          {[this] { return Es_Actiu_Valid(ui_->TXT_ACTIU_USU->text().toStdString()); }, Avisar_Actiu_Invalid});
+  Exigir(ui_->CMB_IDIOMA_USU, {[this] { return !ui_->CMB_IDIOMA_USU->Codi().empty(); }, Avisar_Sense_Idioma});
   for (QLineEdit* dret : ui_->FR_DRETS->findChildren<QLineEdit*>()) {
     Exigir(dret, {[dret] { return Es_Dret_Valid(dret->text().toStdString()); }, Avisar_Dret_Invalid});
   }

@@ -164,8 +164,9 @@ void Esborrar_Usuari(const std::string& codi, const std::string& descripcio) {
 }
 
 std::string SQL_Usuaris() {
-  return "SELECT CODI_USU, DESCRIPCIO_USU, ACTIU_USU, DESCRIPTION FROM USUARIS, LANGUAGES "
-         "WHERE USUARIS.IDIOMA_USU = LANGUAGES.ID";
+  // A user without a language, as an older installation may hold one, is in the list too.
+  return "SELECT CODI_USU, DESCRIPCIO_USU, ACTIU_USU, DESCRIPTION FROM USUARIS LEFT JOIN LANGUAGES ON "
+         "USUARIS.IDIOMA_USU = LANGUAGES.ID";
 }
 
 std::string SQL_Usuari(const std::string& codi) {
@@ -179,6 +180,10 @@ bool Es_Actiu_Valid(const std::string& valor) {
 }
 void Avisar_Actiu_Invalid() {
   sessio.pantalla->Caixa(Missatge("Valors Autoritzats: S/N", "Valores Autorizados: S/N", "Allowed Values: S/N"),
+                         estil::critic);
+}
+void Avisar_Sense_Idioma() {
+  sessio.pantalla->Caixa(Missatge("Cal triar un idioma.", "Hay que elegir un idioma.", "A language has to be chosen."),
                          estil::critic);
 }
 bool Es_Dret_Valid(const std::string& valor) {

@@ -27,5 +27,6 @@ std::string SQL_Usuari(const std::string& codi);
 // What the editor takes: "S" or "N" for an active user, "M", "C" or "X" for a right, exactly. Each box says so.
 bool Es_Actiu_Valid(const std::string& valor);
 void Avisar_Actiu_Invalid();
+void Avisar_Sense_Idioma();
 bool Es_Dret_Valid(const std::string& valor);
 void Avisar_Dret_Invalid();
