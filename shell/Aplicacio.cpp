@@ -46,7 +46,7 @@ void Posar_Serveis() {
 
 void Mostrar_Finestres() {
   auto* principal = new F_Principal;
-  principal->setWindowTitle(QStringLiteral("Brollador 1.27.05"));
+  principal->setWindowTitle(QString::fromLatin1(nom_i_versio));
   principal->show();
   Habilitar_Menus(false);
   Mostrar_Formulari(QStringLiteral("F_SUBINICI"));
@@ -111,6 +111,10 @@ void Acabar_Aplicacio() {
 
 int Executar_Brollador(int argc, char** argv) {
   Aplicacio aplicacio(argc, argv);
+  if (argc > 1) {
+    qCritical("brollador: what is \"%s\"? See brollador --help", argv[1]);
+    return 2;
+  }
   Fixar_Directoris();
   Instancia_Unica instancia(QString::fromStdString(sessio.Dir_Dades));
   if (!instancia.Es_La_Primera()) return 0;

@@ -3,6 +3,8 @@
 
 #include <QApplication>
 
+inline constexpr const char* nom_i_versio = "Brollador 1.27.05";
+
 // Nothing that escapes an event ends the program: it ends in the system's box.
 class Aplicacio : public QApplication {
  public:
@@ -19,5 +21,6 @@ bool Inici_Aplicacio();
 // Closes all forms, recordsets and connections and ends the process.
 void Acabar_Aplicacio();
 
-// The whole program: one process per terminal, a second start brings the running one to the front.
+// The whole program: one process per terminal, a second start brings the running one to the front. Words that neither
+// it nor the toolkit knows end it with 2.
 int Executar_Brollador(int argc, char** argv);

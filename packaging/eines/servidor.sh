@@ -1,7 +1,8 @@
-# A PostgreSQL server of the project's own, for tests and measures: a throw-away cluster in a folder, a Unix socket, an
-# unprivileged user. Sourced; needs the package postgresql.
-#   engegar_servidor FOLDER [SETTING...]   exports BROLLADOR_SERVIDOR, an address without a database
-#   aturar_servidor                        stops it and takes the folder away
+# A PostgreSQL server of the project's own, for tests and measures: a throw-away cluster, a Unix socket, an unprivileged
+# user. It lies in a folder of its own, away from the checkout: its user may not be let into that. Sourced; needs the
+# package postgresql.
+#   engegar_servidor [SETTING...]   exports BROLLADOR_SERVIDOR, an address without a database; its diary when it fails
+#   aturar_servidor                 stops it and takes the folder away
 
 servidor_com() {
   if [ "$(id -u)" -eq 0 ]; then setpriv --reuid=postgres --regid=postgres --clear-groups env HOME=/tmp "$@"; else "$@"; fi
@@ -14,28 +15,32 @@ servidor_programa() {
 }
 
 engegar_servidor() {
-  carpeta_servidor=$1
-  shift
-  rm -rf "$carpeta_servidor"
-  mkdir -p "$carpeta_servidor"
-  sortidor_servidor=$(mktemp -d /tmp/brollador-pg-XXXXXX)
-  if [ "$(id -u)" -eq 0 ]; then chown postgres "$carpeta_servidor" "$sortidor_servidor"; fi
-  local opcions="-c listen_addresses='' -c unix_socket_directories='$sortidor_servidor' -c max_connections=200" ajust
+  local sortida
+  carpeta_servidor=$(mktemp -d /var/tmp/brollador-pg-XXXXXX) || return 1
+  sortida=$(mktemp) || return 1
+  if [ "$(id -u)" -eq 0 ]; then chown postgres "$carpeta_servidor"; fi
+  local opcions="-c listen_addresses='' -c unix_socket_directories='$carpeta_servidor' -c max_connections=200" ajust
   for ajust in "$@"; do opcions+=" -c $ajust"; done
-  (
-    cd /tmp || exit 1
+  if ! (
+    cd "$carpeta_servidor" || exit 1
     servidor_com "$(servidor_programa initdb)" -D "$carpeta_servidor/dades" -U brollador -A trust -E UTF8 --locale=C \
-      --no-sync > /dev/null &&
+      --no-sync 2>&1 &&
       servidor_com "$(servidor_programa pg_ctl)" -D "$carpeta_servidor/dades" -l "$carpeta_servidor/diari" -o "$opcions" \
-        -w start > /dev/null
-  ) || return 1
-  export BROLLADOR_SERVIDOR="postgresql:///?host=$sortidor_servidor&user=brollador"
+        -w start 2>&1
+  ) > "$sortida"; then
+    tail -n 20 "$sortida" "$carpeta_servidor/diari" 2> /dev/null >&2
+    rm -rf "$sortida" "$carpeta_servidor"
+    carpeta_servidor=
+    return 1
+  fi
+  rm -f "$sortida"
+  export BROLLADOR_SERVIDOR="postgresql:///?host=$carpeta_servidor&user=brollador"
 }
 
 aturar_servidor() {
   [ -n "${carpeta_servidor:-}" ] || return 0
   (cd /tmp && servidor_com "$(servidor_programa pg_ctl)" -D "$carpeta_servidor/dades" -m immediate stop > /dev/null 2>&1)
-  rm -rf "$carpeta_servidor" "$sortidor_servidor"
+  rm -rf "$carpeta_servidor"
   unset BROLLADOR_SERVIDOR
   carpeta_servidor=
 }
