@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/dades/Numeros.h"
+#include "core/dades/Registre_Errors.h"
 
 double Arrodonir(double valor, double decimals) {
   const double factor = std::pow(10.0, decimals);
@@ -140,6 +141,7 @@ std::string Missatge(const char* catala, const char* castella, const char* angle
 void Mostrar_Error(const Error_Brollador& error) {
   if (sessio.Error_Mostrat) return;
   sessio.Error_Mostrat = true;
+  Apuntar_Error(error);
   sessio.pantalla->Caixa(std::to_string(error.Numero()) + " - " + error.Descripcio(), estil::critic);
 }
 

@@ -46,7 +46,8 @@ bool Formulari_Carregat(std::string_view nom);
 // The text of the session's language; empty for a language that is none of the three.
 std::string Missatge(const char* catala, const char* castella, const char* angles);
 
-// "number - description", the system's error box (critical). Once per failure: see Error_Mostrat.
+// "number - description", the system's error box (critical), and a line of the log of errors. Once per failure: see
+// Error_Mostrat.
 void Mostrar_Error(const Error_Brollador& error);
 
 // The system's input while a document is saved: typed keys and clicks are swallowed. Releasing twice is harmless.

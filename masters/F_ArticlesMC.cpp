@@ -1,6 +1,7 @@
 #include "masters/F_ArticlesMC.h"
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/dades/Dialecte.h"
 #include "core/formularis/Control_Interface.h"
 #include "masters/F_ArticlesSelC.h"
 #include "masters/F_Columnes_Articles.h"

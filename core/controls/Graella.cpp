@@ -8,6 +8,7 @@
 #include "core/controls/Camps.h"
 #include "core/controls/Delegat_Graella.h"
 #include "core/controls/Model_Recordset.h"
+#include "core/dades/Dialecte.h"
 #include "core/formularis/Control_Interface.h"
 #include "core/formularis/Formulari.h"
 #include "core/formularis/Memoria_Pantalles.h"
@@ -18,12 +19,6 @@ constexpr int twips_per_pixel = 15;
 constexpr int alcada_fila = 24;
 
 }  // namespace
-
-std::string Sense_Ordre(const std::string& sentencia) {
-  const QString text = QString::fromStdString(sentencia);
-  const qsizetype ordre = text.indexOf(u"ORDER BY", 0, Qt::CaseInsensitive);
-  return text.left(ordre).trimmed().toStdString();
-}
 
 Graella::Graella(QWidget* pare) : QTableView(pare), model_(new Model_Recordset(this)) {
   setModel(model_);

@@ -27,9 +27,6 @@ struct Opcio_Graella {
   QString text;
 };
 
-// A statement without its order, which is what sorting by a header replaces.
-std::string Sense_Ordre(const std::string& sentencia);
-
 class Model_Recordset;
 
 class Graella : public QTableView {

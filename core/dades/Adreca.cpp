@@ -37,6 +37,22 @@ std::string Per_Cents(std::string_view text) {
   return codificat;
 }
 
+void Tapar(std::string& text, const std::string& que) {
+  constexpr std::string_view tapat = "***";
+  if (que.empty()) return;
+  for (std::size_t i = text.find(que); i != std::string::npos; i = text.find(que, i + tapat.size())) {
+    text.replace(i, que.size(), tapat);
+  }
+}
+
+// The password as it is written in the address, where letters may stand by their numbers.
+std::string Contrasenya_Escrita(const std::string& adreca) {
+  const std::size_t inici = adreca.find(separador) + separador.size();
+  const std::size_t fi = adreca.substr(0, adreca.find_first_of("/?", inici)).rfind('@');
+  const std::size_t punts = adreca.find(':', inici);
+  return fi == std::string::npos || punts >= fi ? std::string() : adreca.substr(punts + 1, fi - punts - 1);
+}
+
 }  // namespace
 
 bool Es_De_Servidor(const std::string& adreca) {
@@ -73,6 +89,15 @@ bool Te_Contrasenya(const std::string& adreca) {
   if (!Es_De_Servidor(adreca)) return false;
   const auto parts = Parts_De(adreca);
   return parts.contains("password") || parts.contains("sslpassword");
+}
+
+std::string Sense_Contrasenya(std::string text, const std::string& adreca) {
+  if (!Te_Contrasenya(adreca)) return text;
+  auto parts = Parts_De(adreca);
+  for (const std::string& secret : {adreca, parts["password"], parts["sslpassword"], Contrasenya_Escrita(adreca)}) {
+    Tapar(text, secret);
+  }
+  return text;
 }
 
 std::string Adreca_Per_Mostrar(const std::string& adreca) {

@@ -14,5 +14,7 @@ std::string Base_De_Adreca(const std::string& adreca);
 // The same server and user, another database.
 std::string Amb_Base(const std::string& adreca, const std::string& base);
 bool Te_Contrasenya(const std::string& adreca);
+// A text of the library or the server without what is secret in the address.
+std::string Sense_Contrasenya(std::string text, const std::string& adreca);
 // The address for a person: without its password and whatever else it sets.
 std::string Adreca_Per_Mostrar(const std::string& adreca);

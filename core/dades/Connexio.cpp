@@ -11,7 +11,7 @@ Connexio::~Connexio() = default;
 
 void Connexio::Open(const std::string& adreca, int espera) {
   // An empty path would be a database of the engine's own making, gone at the end.
-  if (adreca.empty()) throw Error_Brollador(errors::general, "Connexio", "unable to open database file (14)");
+  if (adreca.empty()) Llancar_Falla(Falla::Sense_Connexio, "Connexio");
   Exigir_Adreca(adreca);
   motor_ = Es_De_Servidor(adreca) ? Obrir_Motor_PostgreSQL(adreca, espera) : Obrir_Motor_SQLite(adreca, espera);
   adreca_ = adreca;
@@ -22,7 +22,7 @@ void Connexio::Close() {
 }
 
 Motor& Connexio::motor() {
-  if (!motor_) throw Error_Brollador(errors::general, "Connexio", "the connection is closed");
+  if (!motor_) Llancar_Falla(Falla::Sense_Connexio, "Connexio");
   return *motor_;
 }
 
@@ -76,7 +76,7 @@ bool Connexio::En_Transaccio() const {
 }
 
 const Cataleg& Connexio::Taules() const {
-  if (!motor_) throw Error_Brollador(errors::general, "Connexio", "the connection is closed");
+  if (!motor_) Llancar_Falla(Falla::Sense_Connexio, "Connexio");
   return motor_->Taules();
 }
 

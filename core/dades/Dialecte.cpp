@@ -338,6 +338,7 @@ class Traductor {
       } else if (Es(mot, "BETWEEN")) {
         i = Entre({i + 1, tram.ultim}, text) - 1;
       } else if (Plega() && Es(mot, "LIKE")) {
+        if (i + 1 == tram.ultim) Sentencia_Erronia("LIKE");
         text += " LIKE";
         i = Operand_Comparat(i + 1, text) - 1;
         text += " ESCAPE ''";
@@ -359,7 +360,7 @@ class Traductor {
 
   // An operand of a comparison, folded when it is compared as a text. Returns the place behind it.
   std::size_t Operand_Comparat(std::size_t i, std::string& text) {
-    const Comparat comparat = comparats_.at(i);
+    const Comparat comparat = comparats_[i];
     const std::size_t fi = i + Mida_Operand(mots_, i);
     comparats_[i] = Comparat::No;
     std::string operand = Expressio({i, fi});

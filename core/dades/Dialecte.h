@@ -38,6 +38,10 @@ struct Sentencia_Escanejada {
 // Raises the faulty-statement error: an unclosed quote, a date that is none, more than one statement.
 Sentencia_Escanejada Escanejar(std::string_view sentencia);
 
+// A statement without its ORDER BY, which is what sorting by a header replaces; the words inside a literal, a name
+// between quotes or a subquery are none of it.
+std::string Sense_Ordre(std::string_view sentencia);
+
 struct Sentencia_Traduida {
   std::string text;                        // in the engine's own SQL
   std::vector<std::pair<int, int>> entre;  // parameters (from 0) that are the two bounds of a BETWEEN

@@ -1,13 +1,13 @@
 #include "core/dades/Enllac_PostgreSQL.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstring>
 #include <utility>
 
 #include "core/dades/Adreca.h"
 #include "core/dades/Dates.h"
-#include "core/dades/Error_Brollador.h"
+#include "core/dades/Errors_Motor.h"
 
 namespace {
 
@@ -59,6 +59,26 @@ std::string Sense_Salt(const char* text) {
   return paraules;
 }
 
+bool Comenca(std::string_view codi, std::string_view amb) {
+  return codi.starts_with(amb);
+}
+
+Falla Falla_De(std::string_view codi, std::string_view sql) {
+  if (codi == "23505") return Falla::Clau_Repetida;
+  if (codi == "23503" || codi == "23001") return Falla_De_Relacio(sql);
+  if (codi == "23502") return Falla::Valor_Buit;
+  if (codi == "55P03" || codi == "40P01" || codi == "40001") return Falla::Espera;
+  if (codi == "25006") return Falla::No_Es_Pot_Escriure;
+  return Falla::Altra_Del_Motor;
+}
+
+// About a value that does not fit the server repeats the value, which may have been typed: its words end before it.
+std::string Paraules_De(const PGresult* resultat, std::string_view codi) {
+  std::string paraules = Sense_Salt(PQresultErrorField(resultat, PG_DIAG_MESSAGE_PRIMARY));
+  if (Comenca(codi, "22")) paraules.resize(std::min(paraules.find_first_of(":\"'"), paraules.size()));
+  return paraules + " (" + std::string(codi) + ")";
+}
+
 void Callar(void* /*qui*/, const PGresult* /*avis*/) {}
 
 }  // namespace
@@ -98,24 +118,24 @@ void Enllac_PostgreSQL::Reconnectar() {
 }
 
 void Enllac_PostgreSQL::Llancar_Connexio() const {
-  throw Error_Brollador(errors::general, "PostgreSQL", Sense_Salt(PQerrorMessage(connexio_.get())));
+  const std::string paraules = Sense_Contrasenya(Sense_Salt(PQerrorMessage(connexio_.get())), adreca_);
+  Llancar_Sense_Connexio("PostgreSQL", paraules, Adreca_Per_Mostrar(adreca_));
 }
 
-// A syntax error, a name that is not there, a type that does not fit: what the dialect calls a faulty statement.
-void Enllac_PostgreSQL::Exigir_Bo(const PGresult* resultat) const {
+void Enllac_PostgreSQL::Exigir_Bo(const PGresult* resultat, std::string_view sql) const {
   const ExecStatusType estat = PQresultStatus(resultat);
   if (estat == PGRES_COMMAND_OK || estat == PGRES_TUPLES_OK) return;
   const char* codi = resultat == nullptr ? nullptr : PQresultErrorField(resultat, PG_DIAG_SQLSTATE);
-  if (codi == nullptr) Llancar_Connexio();
-  const bool erronia = std::strncmp(codi, "42", 2) == 0 || std::strncmp(codi, "22P", 3) == 0;
-  throw Error_Brollador(erronia ? errors::sentencia : errors::general, "PostgreSQL",
-                        Sense_Salt(PQresultErrorField(resultat, PG_DIAG_MESSAGE_PRIMARY)) + " (" + codi + ")");
+  if (codi == nullptr || Comenca(codi, "08") || Comenca(codi, "57P")) Llancar_Connexio();
+  const std::string paraules = Paraules_De(resultat, codi);
+  if (Comenca(codi, "42") || Comenca(codi, "22P")) Llancar_Sentencia_Motor("PostgreSQL", paraules, sql);
+  Llancar_Error_Motor(Falla_De(codi, sql), "PostgreSQL", paraules, sql);
 }
 
 Resultat_PG Enllac_PostgreSQL::Executar_Directe(const std::string& sql) {
   ++viatges_;
   Resultat_PG resultat(PQexec(connexio_.get(), sql.c_str()));
-  Exigir_Bo(resultat.get());
+  Exigir_Bo(resultat.get(), {});
   return resultat;
 }
 
@@ -170,7 +190,7 @@ std::vector<Resultat_PG> Enllac_PostgreSQL::Una_Ordre(const Ordre& ordre) {
   const Parametres_PG p = Preparar_Parametres(ordre.parametres);
   Resultat_PG resultat(PQexecPrepared(connexio_.get(), nom.c_str(), static_cast<int>(p.punters.size()),
                                       p.punters.data(), p.mides.data(), nullptr, 0));
-  Exigir_Bo(resultat.get());
+  Exigir_Bo(resultat.get(), ordre.sql);
   std::vector<Resultat_PG> resultats;
   resultats.push_back(std::move(resultat));
   return resultats;
@@ -187,7 +207,7 @@ std::vector<Resultat_PG> Enllac_PostgreSQL::Totes_Juntes(const std::vector<Ordre
     if (!resposta.clau.empty() && !resposta.bona) Oblidar_Preparada(resposta.clau);
   }
   if (!enviat || !Es_Viu()) Llancar_Connexio();
-  if (viatge.dolent) Exigir_Bo(viatge.dolent.get());
+  if (viatge.dolent) Exigir_Bo(viatge.dolent.get(), viatge.sql_dolent);
   return std::move(viatge.resultats);
 }
 
@@ -209,10 +229,10 @@ bool Enllac_PostgreSQL::Enviar_Ordres(const std::vector<Ordre>& ordres, Viatge& 
     std::string nom = Nom_Preparada(clau);
     if (nom.empty()) {
       nom = Apuntar_Preparada(clau);
-      viatge.respostes.push_back({.clau = clau});
+      viatge.respostes.push_back({.sql = ordre.sql, .clau = clau});
       if (PQsendPrepare(connexio_.get(), nom.c_str(), ordre.sql.c_str(), quants, p.tipus.data()) != 1) return false;
     }
-    viatge.respostes.push_back({.d_una_ordre = true});
+    viatge.respostes.push_back({.sql = ordre.sql, .d_una_ordre = true});
     if (PQsendQueryPrepared(connexio_.get(), nom.c_str(), quants, p.punters.data(), p.mides.data(), nullptr, 0) != 1) {
       return false;
     }
@@ -227,7 +247,10 @@ void Enllac_PostgreSQL::Rebre(Viatge& viatge) {
     const ExecStatusType estat = PQresultStatus(resultat.get());
     resposta.bona = estat == PGRES_COMMAND_OK || estat == PGRES_TUPLES_OK;
     if (resposta.bona && resposta.d_una_ordre) viatge.resultats.push_back(std::move(resultat));
-    if (!resposta.bona && !viatge.dolent) viatge.dolent = std::move(resultat);
+    if (!resposta.bona && !viatge.dolent) {
+      viatge.dolent = std::move(resultat);
+      viatge.sql_dolent = resposta.sql;
+    }
     while (const Resultat_PG resta{PQgetResult(connexio_.get())}) {
     }
   }

@@ -10,6 +10,7 @@
 #include <list>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -23,7 +24,7 @@ using Resultat_PG = std::unique_ptr<PGresult, Alliberar_Resultat>;
 
 class Enllac_PostgreSQL {
  public:
-  // Raises 0x80004005 with the server's words. `espera`: milliseconds that a lock is waited for.
+  // Raises 0x80004005 when it is not reached. `espera`: milliseconds that a lock is waited for.
   Enllac_PostgreSQL(std::string adreca, int espera);
   ~Enllac_PostgreSQL();
   Enllac_PostgreSQL(const Enllac_PostgreSQL&) = delete;
@@ -63,6 +64,7 @@ class Enllac_PostgreSQL {
   };
   // What is waited for on one trip, in the order in which it was sent.
   struct Resposta {
+    std::string_view sql = {};
     std::string clau = {};  // of the statement that is prepared here
     bool d_una_ordre = false;
     bool bona = false;
@@ -71,6 +73,7 @@ class Enllac_PostgreSQL {
     std::vector<Resposta> respostes;
     std::vector<Resultat_PG> resultats;  // of the orders
     Resultat_PG dolent;
+    std::string_view sql_dolent = {};
   };
 
   void Configurar();
@@ -84,7 +87,7 @@ class Enllac_PostgreSQL {
   bool Enviar_Sobrants(Viatge& viatge);
   bool Enviar_Ordres(const std::vector<Ordre>& ordres, Viatge& viatge);
   void Rebre(Viatge& viatge);
-  void Exigir_Bo(const PGresult* resultat) const;
+  void Exigir_Bo(const PGresult* resultat, std::string_view sql) const;
   [[noreturn]] void Llancar_Connexio() const;
 
   std::string adreca_;

@@ -9,7 +9,6 @@ constexpr int desbordament = 6;
 constexpr int divisio_per_zero = 11;
 constexpr int tipus = 13;
 constexpr int fitxer_no_trobat = 53;
-constexpr int fila_retinguda = 1003;  // only its words: the number raised is `general`
 constexpr int sense_estoc = 1001;
 constexpr int camp_no_trobat = 1005;
 constexpr int fitxer_existent = 1008;
@@ -19,24 +18,45 @@ constexpr int concurrencia = static_cast<int>(0x80040E38);  // the row changed s
 constexpr int sentencia = static_cast<int>(0x80040E14);     // a statement that cannot be understood
 }  // namespace errors
 
+// What lies behind a number that many failures share. Each has words of its own, the same on every engine.
+enum class Falla {
+  Cap,                 // none of these: the number says it all
+  Clau_Repetida,       // a key that another row has
+  Fila_En_Us,          // deleted, while other rows point at it
+  Sense_Pare,          // it points at a row that is not there
+  Valor_Buit,          // nothing where something has to be
+  Espera,              // another terminal held what was wanted for too long
+  Sense_Connexio,      // the database cannot be reached, or not any more
+  Transaccio_Desfeta,  // by the engine: nothing of it is left
+  Fila_Retinguda,      // another terminal has the row in edit
+  Sense_Fila,          // no current row
+  No_Es_Pot_Escriure,
+  Altra_Del_Motor,  // the engine's own words tell
+};
+
 class Error_Brollador : public std::runtime_error {
  public:
-  Error_Brollador(int numero, std::string origen, const std::string& descripcio)
-      : std::runtime_error(descripcio), numero_(numero), origen_(std::move(origen)) {}
+  Error_Brollador(int numero, std::string origen, const std::string& descripcio, Falla falla = Falla::Cap)
+      : std::runtime_error(descripcio), numero_(numero), origen_(std::move(origen)), falla_(falla) {}
 
   int Numero() const { return numero_; }
   const std::string& Origen() const { return origen_; }
   std::string Descripcio() const { return what(); }
+  Falla Motiu() const { return falla_; }
 
  private:
   int numero_;
   std::string origen_;
+  Falla falla_;
 };
 
-// Words of the system's own errors (6, 11, 13, 53, faulty statement) in the language of the session.
-// Engines' errors keep the engine's words. Language: 0 Catalan, 1 Spanish, 2 English; any other gives Catalan.
+// Words of the system's own errors in the language of the session: 0 Catalan, 1 Spanish, 2 English; any other gives
+// Catalan.
 void Posar_Idioma_Errors(int idioma);
 std::string Descripcio_Error(int numero);
+std::string Descripcio_Falla(Falla falla);
 
 // Raises one of the system's own errors with its words; `detall` is added after a colon when not empty.
 [[noreturn]] void Llancar_Error(int numero, const std::string& origen, const std::string& detall = {});
+// The same for a failure, under the number 0x80004005.
+[[noreturn]] void Llancar_Falla(Falla falla, const std::string& origen, const std::string& detall = {});

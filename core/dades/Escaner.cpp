@@ -32,6 +32,7 @@ class Escaner {
     if (c == '#') return Llegir_Data();
     if (c == '"' || c == '[') return Copiar_Nom_Entre(c == '[' ? ']' : '"');
     if (c == '-' && i_ + 1 < text_.size() && text_[i_ + 1] == '-') Sentencia_Erronia("--");
+    if (c == '?') Sentencia_Erronia("?");
     if (Comenca_Numero()) return Llegir_Numero();
     if (Es_De_Nom(c)) return Copiar_Nom();
     sortida_.forma.push_back(c);
@@ -133,9 +134,12 @@ class Escaner {
 
   void Copiar_Nom_Entre(char tancament) {
     const std::size_t fi = text_.find(tancament, i_ + 1);
-    if (fi == std::string_view::npos) Sentencia_Erronia(text_.substr(i_, 20));
+    const std::string_view nom = text_.substr(i_ + 1, fi == std::string_view::npos ? fi : fi - i_ - 1);
+    if (fi == std::string_view::npos || nom.find('"') != std::string_view::npos) {
+      Sentencia_Erronia(text_.substr(i_, 20));
+    }
     sortida_.forma += '"';
-    sortida_.forma += text_.substr(i_ + 1, fi - i_ - 1);
+    sortida_.forma += nom;
     sortida_.forma += '"';
     i_ = fi + 1;
   }
@@ -149,4 +153,46 @@ class Escaner {
 
 Sentencia_Escanejada Escanejar(std::string_view sentencia) {
   return Escaner(sentencia).Executar();
+}
+
+namespace {
+
+// Behind what begins here: a literal, a name between quotes, a word, or one letter.
+std::size_t Final_Del_Tros(std::string_view text, std::size_t i) {
+  const char c = text[i];
+  if (c == '\'' || c == '#' || c == '"' || c == '[') {
+    const std::size_t fi = text.find(c == '[' ? ']' : c, i + 1);
+    return fi == std::string_view::npos ? text.size() : fi + 1;
+  }
+  if (!Es_De_Nom(c)) return i + 1;
+  while (i < text.size() && Es_De_Nom(text[i])) ++i;
+  return i;
+}
+
+bool Es_Paraula(std::string_view text, std::string_view paraula) {
+  return Es(Mot{Mena::Nom, std::string(text)}, paraula);
+}
+
+}  // namespace
+
+std::string Sense_Ordre(std::string_view sentencia) {
+  int fondaria = 0;
+  std::size_t ordre = std::string_view::npos;  // where the word ORDER stands, while nothing but blanks follows it
+  for (std::size_t i = 0; i < sentencia.size();) {
+    const std::size_t fi = Final_Del_Tros(sentencia, i);
+    const std::string_view tros = sentencia.substr(i, fi - i);
+    if (tros == "(") ++fondaria;
+    if (tros == ")") --fondaria;
+    if (ordre != std::string_view::npos && Es_Paraula(tros, "BY")) {
+      sentencia = sentencia.substr(0, ordre);
+      break;
+    }
+    const bool blanc = tros.size() == 1 && std::isspace(static_cast<unsigned char>(tros.front())) != 0;
+    if (!blanc) ordre = fondaria == 0 && Es_Paraula(tros, "ORDER") ? i : std::string_view::npos;
+    i = fi;
+  }
+  while (!sentencia.empty() && std::isspace(static_cast<unsigned char>(sentencia.back())) != 0) {
+    sentencia.remove_suffix(1);
+  }
+  return std::string(sentencia);
 }

@@ -60,6 +60,9 @@ class Motor {
   // Deixar_Anar, with the connection, and with the process whatever its end.
   virtual bool Retenir(const std::string& taula, const Valor& clau) = 0;
   virtual void Deixar_Anar(const std::string& taula, const Valor& clau) = 0;
+  // Behind a WHERE: true when nobody else holds the row whose Empremta_Fila is the parameter, and holds it itself while
+  // it is written. Empty where Retenir costs nothing.
+  virtual std::string Condicio_Lliure(int /*parametre*/) const { return {}; }
 
   virtual std::string Comprovar_Integritat() = 0;
 
@@ -84,6 +87,10 @@ std::vector<std::vector<Valor>> Files_Esquema(const Taula& taula);
 
 // A number for a row held while it is in edit.
 std::int64_t Empremta_Fila(const std::string& taula, const Valor& clau);
+
+// What each engine wants of a translation.
+const Trets_Motor& Trets_PostgreSQL();
+const Trets_Motor& Trets_SQLite();
 
 std::unique_ptr<Motor> Obrir_Motor_PostgreSQL(const std::string& adreca, int espera);
 // Makes the database when the server has none of that name. Raises 1008 when it holds an installation already.

@@ -3,6 +3,7 @@
 // transaction usable.
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "core/dades/Adreca.h"
 #include "core/dades/Enllac_PostgreSQL.h"
@@ -100,20 +101,27 @@ class Motor_PostgreSQL final : public Motor {
   void BeginTrans() override { marcada_ = true; }
 
   void CommitTrans() override {
+    const std::vector<std::int64_t> per_deixar = per_deixar_;  // also when it fails, behind the rollback
     if (comencada_) {
       Exigir_Viva();
       enllac_.Encuar("COMMIT");
+    }
+    Encuar_Per_Deixar();
+    try {
       Enviar();
+    } catch (const Error_Brollador&) {
+      per_deixar_ = per_deixar;
+      throw;
     }
     Oblidar_Transaccio();
   }
 
   void RollbackTrans() override {
-    const bool cal = comencada_ && enviada_ && enllac_.Es_Viu();
-    enllac_.Oblidar_Cua();
+    const bool cal = comencada_ && enviada_;
     Oblidar_Transaccio();
-    if (!cal) return;
-    enllac_.Encuar("ROLLBACK");
+    if (!enllac_.Es_Viu()) return per_deixar_.clear();
+    if (cal) enllac_.Encuar("ROLLBACK");
+    Encuar_Per_Deixar();
     enllac_.Enviar();
   }
 
@@ -129,9 +137,16 @@ class Motor_PostgreSQL final : public Motor {
     const Resultat_PG resultat = Passar("SELECT pg_try_advisory_lock($1)", {Empremta_Fila(taula, clau)});
     return PQgetvalue(resultat.get(), 0, 0)[0] == 't';
   }
-  // The server has dropped the holds of a connection that is gone.
+  // Inside a transaction a row is let go behind its end. The server has dropped the holds of a connection that is gone.
   void Deixar_Anar(const std::string& taula, const Valor& clau) override {
-    if (enllac_.Es_Viu()) Passar("SELECT pg_advisory_unlock($1)", {Empremta_Fila(taula, clau)});
+    if (!enllac_.Es_Viu()) return;
+    per_deixar_.push_back(Empremta_Fila(taula, clau));
+    if (marcada_) return;
+    Encuar_Per_Deixar();
+    enllac_.Enviar();
+  }
+  std::string Condicio_Lliure(int parametre) const override {
+    return " AND pg_try_advisory_xact_lock($" + std::to_string(parametre) + ")";
   }
 
   std::string Comprovar_Integritat() override {
@@ -146,6 +161,12 @@ class Motor_PostgreSQL final : public Motor {
   }
 
  private:
+  void Encuar_Per_Deixar() {
+    for (const std::int64_t fila : std::exchange(per_deixar_, {})) {
+      enllac_.Encuar("SELECT pg_advisory_unlock($1)", {fila});
+    }
+  }
+
   Resultat_PG Passar(const std::string& sql, const std::vector<Valor>& parametres) {
     const bool nova = !comencada_ && enllac_.Es_Viu();
     try {
@@ -201,7 +222,10 @@ class Motor_PostgreSQL final : public Motor {
   // a savepoint behind which nothing was written yet.
   void Preparar_Cami(bool escriu) {
     if (comencada_) Exigir_Viva();
-    if (!enllac_.Es_Viu()) enllac_.Reconnectar();
+    if (!enllac_.Es_Viu()) {
+      enllac_.Reconnectar();
+      per_deixar_.clear();
+    }
     if (marcada_ && escriu && !comencada_) {
       enllac_.Encuar("BEGIN");
       comencada_ = true;
@@ -242,7 +266,7 @@ class Motor_PostgreSQL final : public Motor {
 
   void Exigir_Viva() const {
     if (enllac_.Es_Viu() && !trencada_) return;
-    throw Error_Brollador(errors::general, "PostgreSQL", "the transaction was undone by the engine");
+    Llancar_Falla(Falla::Transaccio_Desfeta, "PostgreSQL");
   }
 
   void Oblidar_Enviada() {
@@ -294,6 +318,7 @@ class Motor_PostgreSQL final : public Motor {
   std::vector<Demanada> demanades_;
   Cataleg taules_;
   std::map<std::pair<Oid, int>, std::pair<std::string, std::string>> noms_columnes_;
+  std::vector<std::int64_t> per_deixar_;  // rows held, to be let go when the transaction ends
   std::int64_t numero_ = 0;
   bool marcada_ = false;    // BeginTrans was called
   bool comencada_ = false;  // the server's transaction runs, or is in the queue
@@ -324,6 +349,10 @@ bool Hi_Ha_Installacio(Enllac_PostgreSQL& base) {
 }
 
 }  // namespace
+
+const Trets_Motor& Trets_PostgreSQL() {
+  return trets_postgresql;
+}
 
 std::unique_ptr<Motor> Obrir_Motor_PostgreSQL(const std::string& adreca, int espera) {
   return std::make_unique<Motor_PostgreSQL>(adreca, espera);

@@ -11,7 +11,7 @@
 #include <unordered_map>
 
 #include "core/dades/Dates.h"
-#include "core/dades/Error_Brollador.h"
+#include "core/dades/Errors_Motor.h"
 #include "core/dades/Funcions_SQLite.h"
 #include "core/dades/Motor.h"
 #include "core/dades/Retencio_Fitxer.h"
@@ -61,13 +61,40 @@ int Esperar_Torn(void* limit, int vegades) {
   return 1;
 }
 
+Falla Falla_De(int codi, std::string_view sql) {
+  switch (codi) {
+    case SQLITE_CONSTRAINT_UNIQUE:
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_ROWID:
+      return Falla::Clau_Repetida;
+    case SQLITE_CONSTRAINT_FOREIGNKEY:
+    case SQLITE_CONSTRAINT_TRIGGER:  // a relation that restricts
+      return Falla_De_Relacio(sql);
+    case SQLITE_CONSTRAINT_NOTNULL:
+      return Falla::Valor_Buit;
+    default:
+      break;
+  }
+  switch (codi & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return Falla::Espera;
+    case SQLITE_CANTOPEN:
+      return Falla::Sense_Connexio;
+    case SQLITE_READONLY:
+      return Falla::No_Es_Pot_Escriure;
+    default:
+      return Falla::Altra_Del_Motor;
+  }
+}
+
 Base Obrir_Base(const std::string& cami, int mode) {
   sqlite3* oberta = nullptr;
   const int codi = sqlite3_open_v2(cami.c_str(), &oberta, mode, nullptr);
   Base base(oberta);
   if (codi != SQLITE_OK) {
     const std::string paraules = base ? sqlite3_errmsg(base.get()) : sqlite3_errstr(codi);
-    throw Error_Brollador(errors::general, "SQLite", paraules + " (" + std::to_string(codi) + "): " + cami);
+    Llancar_Sense_Connexio("SQLite", paraules + " (" + std::to_string(codi) + "): " + cami, cami);
   }
   sqlite3_extended_result_codes(base.get(), 1);
   // A name between double quotes is a name: one that is no column is an error, not a text.
@@ -79,12 +106,10 @@ Base Obrir_Base(const std::string& cami, int mode) {
 class Motor_SQLite final : public Motor {
  public:
   Motor_SQLite(const std::string& cami, int espera)
-      : espera_(espera),
-        base_(Obrir_Base(cami, SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE)),
-        retencio_(cami + "-edicions") {
+      : espera_(espera), base_(Obrir_Base(cami, SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE)), retencio_(cami) {
     sqlite3_busy_handler(base_.get(), Esperar_Torn, &espera_);
     if (sqlite3_db_readonly(base_.get(), "main") == 1) {
-      throw Error_Brollador(errors::general, "SQLite", "attempt to write a readonly database (8): " + cami);
+      Llancar_Falla(Falla::No_Es_Pot_Escriure, "SQLite", cami);
     }
     Executar_Directe("PRAGMA journal_mode = TRUNCATE");
     Executar_Directe("PRAGMA synchronous = FULL");
@@ -114,7 +139,7 @@ class Motor_SQLite final : public Motor {
     while ((codi = sqlite3_step(sentencia)) == SQLITE_ROW) Llegir_Fila(sentencia, quantes, files);
     sqlite3_reset(sentencia);
     sqlite3_clear_bindings(sentencia);
-    if (codi != SQLITE_DONE) Llancar(codi);
+    if (codi != SQLITE_DONE) Llancar(codi, sql);
     if (columnes != nullptr) *columnes = preparada.columnes;
     return preparada.escriu ? sqlite3_changes(base_.get()) : 0;
   }
@@ -186,14 +211,14 @@ class Motor_SQLite final : public Motor {
   }
 
  private:
-  [[noreturn]] void Llancar(int codi, int numero = errors::general) const {
-    throw Error_Brollador(numero, "SQLite",
-                          std::string(sqlite3_errmsg(base_.get())) + " (" + std::to_string(codi) + ")");
+  [[noreturn]] void Llancar(int codi, std::string_view sql) const {
+    const std::string paraules = std::string(sqlite3_errmsg(base_.get())) + " (" + std::to_string(codi) + ")";
+    Llancar_Error_Motor(Falla_De(codi, sql), "SQLite", paraules, sql);
   }
 
   void Executar_Directe(const std::string& sql) {
     const int codi = sqlite3_exec(base_.get(), sql.c_str(), nullptr, nullptr, nullptr);
-    if (codi != SQLITE_OK) Llancar(codi);
+    if (codi != SQLITE_OK) Llancar(codi, sql);
   }
 
   Preparada& Preparar(const std::string& sql) {
@@ -204,7 +229,8 @@ class Motor_SQLite final : public Motor {
     sqlite3_stmt* sentencia = nullptr;
     const int codi = sqlite3_prepare_v3(base_.get(), sql.c_str(), static_cast<int>(sql.size()) + 1,
                                         SQLITE_PREPARE_PERSISTENT, &sentencia, nullptr);
-    if (codi != SQLITE_OK) Llancar(codi, (codi & 0xFF) == SQLITE_ERROR ? errors::sentencia : errors::general);
+    if ((codi & 0xFF) == SQLITE_ERROR) Llancar_Sentencia_Motor("SQLite", sqlite3_errmsg(base_.get()), sql);
+    if (codi != SQLITE_OK) Llancar(codi, sql);
     Preparada nova;
     nova.sql = sql;
     nova.sentencia.reset(sentencia);
@@ -283,7 +309,7 @@ class Motor_SQLite final : public Motor {
   // as if it were still there.
   void Comprovar_Viva() const {
     if (sqlite3_get_autocommit(base_.get()) == 0) return;
-    throw Error_Brollador(errors::general, "SQLite", "the transaction was undone by the engine");
+    Llancar_Falla(Falla::Transaccio_Desfeta, "SQLite");
   }
 
   // The catalogue is kept in a table of the database: a STRICT table knows neither dates nor booleans.
@@ -319,6 +345,10 @@ class Motor_SQLite final : public Motor {
 
 }  // namespace
 
+const Trets_Motor& Trets_SQLite() {
+  return trets_sqlite;
+}
+
 std::unique_ptr<Motor> Obrir_Motor_SQLite(const std::string& cami, int espera) {
   return std::make_unique<Motor_SQLite>(cami, espera);
 }
@@ -327,7 +357,7 @@ void Crear_Fitxer_SQLite(const std::string& cami) {
   const int fitxer = open(cami.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0666);
   if (fitxer < 0) {
     if (errno == EEXIST) Llancar_Error(errors::fitxer_existent, "SQLite", cami);
-    throw Error_Brollador(errors::general, "SQLite", cami + ": " + std::strerror(errno));
+    Llancar_Sense_Connexio("SQLite", cami + ": " + std::strerror(errno), cami);
   }
   close(fitxer);
   const Base base = Obrir_Base(cami, SQLITE_OPEN_READWRITE);
@@ -335,7 +365,7 @@ void Crear_Fitxer_SQLite(const std::string& cami) {
       "CREATE TABLE ESQUEMA (ORDRE INTEGER PRIMARY KEY, TAULA TEXT NOT NULL, COLUMNA TEXT NOT NULL, "
       "TIPUS TEXT NOT NULL, CLAU INTEGER NOT NULL) STRICT";
   if (sqlite3_exec(base.get(), esquema, nullptr, nullptr, nullptr) != SQLITE_OK) {
-    throw Error_Brollador(errors::general, "SQLite", sqlite3_errmsg(base.get()));
+    Llancar_Error_Motor(Falla::Altra_Del_Motor, "SQLite", sqlite3_errmsg(base.get()));
   }
 }
 

@@ -33,6 +33,7 @@ Mots Partir(const std::string& forma) {
           {Mena::Parametre, forma.substr(inici, i - inici), std::stoi(forma.substr(inici + 1, i - inici - 1)) - 1});
     } else if (c == '"') {
       i = forma.find('"', i + 1) + 1;
+      if (i == 0) Sentencia_Erronia(forma.substr(inici, 20));
       mots.push_back({Mena::Nom, forma.substr(inici + 1, i - inici - 2)});
     } else if (Es_De_Nom(c)) {
       while (i < forma.size() && Es_De_Nom(forma[i])) ++i;

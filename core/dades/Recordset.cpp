@@ -1,7 +1,7 @@
 #include "core/dades/Recordset.h"
 
 #include <algorithm>
-#include <map>
+#include <utility>
 
 #include "core/dades/Connexio.h"
 #include "core/dades/Error_Brollador.h"
@@ -11,12 +11,6 @@
 #include "core/dades/Text.h"
 
 namespace {
-
-// By source text; the first one opened counts.
-std::map<std::string, Recordset*, std::less<>>& Registre() {
-  static std::map<std::string, Recordset*, std::less<>> registre;
-  return registre;
-}
 
 struct Canvi {
   int camp;
@@ -82,12 +76,12 @@ struct Recordset::Interior {
   bool Sobre_Una_Fila() const { return posicio >= 0 && posicio < Quantes(); }
 
   void Exigir_Obert() const {
-    if (!obert) throw Error_Brollador(errors::general, "Recordset", "the recordset is closed");
+    if (!obert) Llancar_Falla(Falla::Sense_Fila, "Recordset");
   }
 
   std::size_t Fila_Actual() const {
     Exigir_Obert();
-    if (!Sobre_Una_Fila()) throw Error_Brollador(errors::general, "Recordset", "no current row: " + font);
+    if (!Sobre_Una_Fila()) Llancar_Falla(Falla::Sense_Fila, "Recordset");
     return Fila(posicio);
   }
 
@@ -101,30 +95,45 @@ struct Recordset::Interior {
   Valor Clau(std::size_t fila) const { return files.Valor_De(fila, columna_clau, Tipus_Columna::Llarg); }
 
   void Llegir();
+  void Portar(const Lectura& lectura, Files_Memoria& noves) const;
+  void Prendre(const Lectura& lectura, Files_Memoria noves);
   std::shared_ptr<const std::vector<Camp>> Descriure(const std::vector<Columna_Resultat>& columnes,
                                                      const Sentencia_Traduida& traduida) const;
   const std::vector<Camp>& Camps() const { return *descrits; }
   void Filtrar();
   void Exigir_Editable() const;
   void Retenir();
-  void Acabar_Edicio();
-  void Escriure(const std::string& sql, const std::vector<Valor>& parametres) const;
+  void Acabar_Edicio() noexcept;
+  void Oblidar_Filtre();
+  void Escriure(const std::string& sql, const std::vector<Valor>& parametres, bool si_es_lliure = false);
+  std::string Si_Es_Lliure(std::vector<Valor>& parametres);
   void Desar_Canvi();
   void Desar_Alta();
   const Columna& Columna_De(const Camp& camp) const;
   Files_Memoria Inserir();
 };
 
+// Nothing of the set changes before its rows have come: when they do not, it stays as it was.
 void Recordset::Interior::Llegir() {
   const Lectura lectura = Preparar_Lectura(motor(), font, bloqueig, taula_unica);
+  Files_Memoria noves;
+  Portar(lectura, noves);
+  Prendre(lectura, std::move(noves));
+}
+
+void Recordset::Interior::Portar(const Lectura& lectura, Files_Memoria& noves) const {
   Motor::Traduccio_Guardada& guardada = lectura.guardada;
   std::vector<Columna_Resultat> columnes;
   const bool per_descriure = guardada.camps == nullptr;
-  motor().Consultar(lectura.sql, lectura.parametres, files, per_descriure ? &columnes : nullptr);
+  motor().Consultar(lectura.sql, lectura.parametres, noves, per_descriure ? &columnes : nullptr);
   if (per_descriure) guardada.camps = Descriure(columnes, guardada.traduida);
+}
+
+void Recordset::Interior::Prendre(const Lectura& lectura, Files_Memoria noves) {
+  files = std::move(noves);
   retingudes = lectura.retinguda;
-  descrits = guardada.camps;
-  taula_editable = guardada.traduida.taula_editable;
+  descrits = lectura.guardada.camps;
+  taula_editable = lectura.guardada.traduida.taula_editable;
   columna_clau = descrits->size();
   Filtrar();
   posicio = 0;
@@ -165,36 +174,64 @@ void Recordset::Interior::Filtrar() {
 void Recordset::Interior::Exigir_Editable() const {
   Exigir_Obert();
   if (bloqueig == Bloqueig::Lectura || taula_editable.empty()) {
-    throw Error_Brollador(errors::general, "Recordset", "the recordset cannot be written: " + font);
+    Llancar_Falla(Falla::No_Es_Pot_Escriure, "Recordset");
   }
 }
 
 void Recordset::Interior::Retenir() {
   if (bloqueig != Bloqueig::Pessimista || retinguda) return;
   if (!motor().Retenir(taula_editable, Clau(Fila_Actual()))) {
-    throw Error_Brollador(errors::general, "Recordset", Descripcio_Error(errors::fila_retinguda));
+    Llancar_Falla(Falla::Fila_Retinguda, "Recordset");
   }
   retinguda = true;
 }
 
-void Recordset::Interior::Acabar_Edicio() {
-  if (retinguda) motor().Deixar_Anar(taula_editable, Clau(Fila(posicio)));
-  retinguda = false;
+// The edit is over before its row is let go. A hold that cannot be taken back went with the connection that had it.
+void Recordset::Interior::Acabar_Edicio() noexcept {
   edicio = Edicio::Cap;
   canvis.clear();
+  if (!std::exchange(retinguda, false) || !connexio->Es_Oberta()) return;
+  try {
+    motor().Deixar_Anar(taula_editable, Clau(Fila(posicio)));
+  } catch (const std::exception&) {
+    return;
+  }
+}
+
+void Recordset::Interior::Oblidar_Filtre() {
+  text_filtre.clear();
+  filtre.clear();
+  visibles.clear();
 }
 
 const Columna& Recordset::Interior::Columna_De(const Camp& camp) const {
   if (camp.columna == nullptr || !Iguals_Plegats(camp.taula, taula_editable)) {
-    throw Error_Brollador(errors::general, "Recordset", camp.nom + " cannot be written");
+    Llancar_Falla(Falla::No_Es_Pot_Escriure, "Recordset", camp.nom);
   }
   return *camp.columna;
 }
 
-// A write of the current row. One that is held is there for certain: nobody waits for the answer.
-void Recordset::Interior::Escriure(const std::string& sql, const std::vector<Valor>& parametres) const {
-  if (retingudes != 0 && retingudes == motor().Transaccio_Que_Reten()) return motor().Executar_Despres(sql, parametres);
-  if (motor().Executar(sql, parametres) == 0) Llancar_Error(errors::concurrencia, "Recordset");
+// A pessimistic write of a row that was not held before takes the hold on its way, where the engine can; else first.
+std::string Recordset::Interior::Si_Es_Lliure(std::vector<Valor>& parametres) {
+  if (bloqueig != Bloqueig::Pessimista || retinguda) return {};
+  const std::string condicio = motor().Condicio_Lliure(static_cast<int>(parametres.size()) + 1);
+  if (condicio.empty()) {
+    Retenir();
+  } else {
+    parametres.emplace_back(Empremta_Fila(taula_editable, Clau(Fila_Actual())));
+  }
+  return condicio;
+}
+
+// A write of the current row. One that is held is there for certain: nobody waits for the answer. `si_es_lliure`: the
+// write itself asks whether another terminal has the row in edit, and which of the two it was has to be told
+// afterwards.
+void Recordset::Interior::Escriure(const std::string& sql, const std::vector<Valor>& parametres, bool si_es_lliure) {
+  const bool segura = retingudes != 0 && retingudes == motor().Transaccio_Que_Reten() && !si_es_lliure;
+  if (segura) return motor().Executar_Despres(sql, parametres);
+  if (motor().Executar(sql, parametres) != 0) return;
+  if (si_es_lliure) Retenir();
+  Llancar_Error(errors::concurrencia, "Recordset");
 }
 
 // UPDATE of the row by its hidden key, if its columns still hold what was read.
@@ -216,7 +253,8 @@ void Recordset::Interior::Desar_Canvi() {
     parametres.push_back(files.Valor_De(fila, camp, Camps()[camp].tipus));
     on += " AND " + motor().Condicio_Identica(Columna_De(Camps()[camp]), static_cast<int>(parametres.size()));
   }
-  Escriure("UPDATE \"" + taula_editable + "\" SET " + posar + on, parametres);
+  const std::string si_es_lliure = Si_Es_Lliure(parametres);
+  Escriure("UPDATE \"" + taula_editable + "\" SET " + posar + on + si_es_lliure, parametres, !si_es_lliure.empty());
   for (const auto& canvi : canvis) files.Posar(fila, static_cast<std::size_t>(canvi.camp), canvi.valor);
 }
 
@@ -250,8 +288,6 @@ void Recordset::Interior::Desar_Alta() {
   posicio = Quantes() - 1;
 }
 
-// ---- The recordset ----------------------------------------------------------------------------------------------
-
 Recordset::Recordset() : d_(std::make_unique<Interior>()) {}
 
 Recordset::Recordset(std::string_view font, Connexio& connexio, Bloqueig bloqueig) : Recordset() {
@@ -259,7 +295,7 @@ Recordset::Recordset(std::string_view font, Connexio& connexio, Bloqueig bloquei
 }
 
 Recordset::~Recordset() {
-  if (d_->obert) Close();
+  Close();
 }
 
 void Recordset::Unique_Table(std::string taula) {
@@ -271,20 +307,23 @@ void Recordset::Open(std::string_view font, Connexio& connexio, Bloqueig bloquei
   d_->font = font;
   d_->connexio = &connexio;
   d_->bloqueig = bloqueig;
-  d_->text_filtre.clear();
+  d_->Oblidar_Filtre();
   d_->Llegir();
   d_->obert = true;
   Registrar_Recordset(*this);
 }
 
 void Recordset::Reopen(std::string_view font) {
-  const std::string abans = Source();
-  try {
-    Open(font, *d_->connexio, d_->bloqueig);
-  } catch (const Error_Brollador&) {
-    Open(abans, *d_->connexio, d_->bloqueig);
-    throw;
-  }
+  d_->Exigir_Obert();
+  CancelUpdate();
+  Files_Memoria noves;
+  const Lectura lectura = Preparar_Lectura(d_->motor(), std::string(font), d_->bloqueig, d_->taula_unica);
+  d_->Portar(lectura, noves);
+  Desregistrar_Recordset(*this);
+  d_->font = font;
+  Registrar_Recordset(*this);
+  d_->Oblidar_Filtre();
+  d_->Prendre(lectura, std::move(noves));
 }
 
 void Recordset::Requery() {
@@ -293,14 +332,13 @@ void Recordset::Requery() {
   d_->Llegir();
 }
 
-void Recordset::Close() {
+void Recordset::Close() noexcept {
   if (!d_->obert) return;
   CancelUpdate();
   Desregistrar_Recordset(*this);
   d_->obert = false;
   d_->files.Buidar(0);
-  d_->visibles.clear();
-  d_->text_filtre.clear();
+  d_->Oblidar_Filtre();
 }
 
 bool Recordset::State() const {
@@ -316,12 +354,11 @@ std::int64_t Recordset::RecordCount() const {
 }
 
 bool Recordset::Eof() const {
-  return d_->posicio >= RecordCount();
+  return RecordCount() == 0 || d_->posicio >= RecordCount();
 }
 bool Recordset::Bof() const {
   return RecordCount() == 0 || d_->posicio < 0;
 }
-
 void Recordset::MoveFirst() {
   Move_Des_Del_Primer(0);
 }
@@ -343,7 +380,7 @@ void Recordset::Move_Des_Del_Primer(std::int64_t files) {
   d_->Exigir_Obert();
   if (d_->edicio != Edicio::Cap) Update();
   const std::int64_t quantes = d_->Quantes();
-  if (quantes == 0) throw Error_Brollador(errors::general, "Recordset", "the recordset is empty: " + d_->font);
+  if (quantes == 0) Llancar_Falla(Falla::Sense_Fila, "Recordset");
   d_->posicio = std::clamp<std::int64_t>(files, -1, quantes);
 }
 
@@ -417,7 +454,10 @@ void Recordset::Set(std::string_view nom, const Valor& valor) {
   d_->Exigir_Editable();
   const int camp = Index_Camp(nom);
   Valor convertit = Convertir_A_Columna(valor, d_->Columna_De(d_->Camps()[static_cast<std::size_t>(camp)]).tipus);
-  Edit();
+  if (d_->edicio == Edicio::Cap) {
+    d_->Fila_Actual();
+    d_->edicio = Edicio::Canvi;
+  }
   std::erase_if(d_->canvis, [camp](const Canvi& canvi) { return canvi.camp == camp; });
   d_->canvis.push_back({camp, std::move(convertit)});
 }
@@ -430,7 +470,7 @@ void Recordset::Update() {
   d_->Acabar_Edicio();
 }
 
-void Recordset::CancelUpdate() {
+void Recordset::CancelUpdate() noexcept {
   d_->Acabar_Edicio();
 }
 
@@ -449,7 +489,6 @@ void Recordset::Delete() {
 Edicio Recordset::EditMode() const {
   return d_->edicio;
 }
-
 bool Recordset::Te_Canvis() const {
   return !d_->canvis.empty();
 }
@@ -457,29 +496,4 @@ bool Recordset::Te_Canvis() const {
 void Connexio::Demanar(std::string_view font, Bloqueig bloqueig) {
   const Lectura lectura = Preparar_Lectura(motor(), std::string(font), bloqueig, {});
   motor().Demanar(lectura.sql, lectura.parametres);
-}
-
-// ---- The registry -----------------------------------------------------------------------------------------------
-
-void Registrar_Recordset(Recordset& rs) {
-  Registre().emplace(rs.Source(), &rs);
-}
-
-void Desregistrar_Recordset(Recordset& rs) {
-  if (const auto it = Registre().find(rs.Source()); it != Registre().end()) Registre().erase(it);
-}
-
-void Tancar_Recordsets() {
-  while (!Registre().empty()) {
-    Recordset* rs = Registre().begin()->second;
-    Registre().erase(Registre().begin());
-    if (rs->State()) rs->Close();
-  }
-}
-
-std::size_t Comptar_Recordsets_Oberts() {
-  return Registre().size();
-}
-bool Recordset_Registrat(std::string_view font) {
-  return Registre().find(font) != Registre().end();
 }

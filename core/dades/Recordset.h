@@ -1,11 +1,12 @@
 // A set of rows held at the client, over a statement of the system's dialect or the name of a table.
 //
 // Reading: Open, RecordCount, MoveFirst..., rs["COLUMN"] (any case, accents and cedilla included).
-// Editing: AddNew or a current row (Edit, or the first Set), Set, Update; CancelUpdate gives the pending edit up. An
-// update names the key and the original values of the columns that it writes: a row that changed meanwhile raises
-// 0x80040E38. A set can be written when it shows one table whole rows of which are known (hidden keys are added by the
-// layer), or when Unique_Table says which of the joined tables is the one to write. Opening enters the set in the
-// registry of open recordsets, closing (by the destructor too) takes it out.
+// Editing: AddNew or a current row (Edit, or the first Set), Set, Update; CancelUpdate gives the pending edit up. A
+// pessimistic set holds the row against other terminals from Edit on; without Edit, while Update writes. An update
+// names the key and the original values of the columns that it writes: a row that changed meanwhile raises 0x80040E38.
+// A set can be written when it shows one table whole rows of which are known (hidden keys are added by the layer), or
+// when Unique_Table says which of the joined tables is the one to write. Opening enters the set in the registry of open
+// recordsets, closing (by the destructor too) takes it out.
 #pragma once
 
 #include <cstdint>
@@ -34,10 +35,10 @@ class Recordset {
 
   void Unique_Table(std::string taula);  // before Open
   void Open(std::string_view font, Connexio& connexio, Bloqueig bloqueig = Bloqueig::Lectura);
-  // Another statement with the parameters of before; when it fails the old one stays open.
+  // Another statement with the parameters of before; when it fails the old one stays open with its rows.
   void Reopen(std::string_view font);
-  void Requery();  // keeps the filter; first row current
-  void Close();
+  void Requery();  // keeps the filter; first row current. When it fails the rows of before stay
+  void Close() noexcept;
   bool State() const;  // open
   const std::string& Source() const;
 
@@ -68,7 +69,7 @@ class Recordset {
   void Edit();                                         // of the current row, which a pessimistic set holds from now on
   void Set(std::string_view nom, const Valor& valor);  // starts an edit of the current row when none is pending
   void Update();
-  void CancelUpdate();
+  void CancelUpdate() noexcept;
   void Delete();
   Edicio EditMode() const;
   bool Te_Canvis() const;  // the pending edit would write something
@@ -78,8 +79,8 @@ class Recordset {
   std::unique_ptr<Interior> d_;
 };
 
-// The registry of open recordsets, by their source text; of two with the same source the first one counts.
-// Open and Close keep it by themselves.
+// The registry of open recordsets, by their source text; two with the same source share one entry, which stays as long
+// as either is open. Open and Close keep it by themselves.
 void Registrar_Recordset(Recordset& rs);
 void Desregistrar_Recordset(Recordset& rs);
 // Closes every registered recordset and empties the registry (before a backup).

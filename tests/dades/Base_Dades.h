@@ -29,6 +29,19 @@ int Numero_Error(Feina feina) {
   return 0;
 }
 
+// What lay behind it; Cap when it ends well.
+template <class Feina>
+Falla Motiu_Error(Feina feina) {
+  try {
+    feina();
+  } catch (const Error_Brollador& error) {
+    EXPECT_EQ(error.Numero(), errors::general);
+    EXPECT_EQ(error.Descripcio().substr(0, error.Descripcio().find(": ")), Descripcio_Falla(error.Motiu()));
+    return error.Motiu();
+  }
+  return Falla::Cap;
+}
+
 class Base_Dades : public testing::Test {
  protected:
   Base_Dades() {

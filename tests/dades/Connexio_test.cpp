@@ -45,9 +45,10 @@ class Sense_Lloc_Al_Disc {
 }  // namespace
 
 TEST_F(Enllac, A_missing_file_is_an_error_and_is_not_created) {
-  EXPECT_NE(Paraules_En_Obrir(carpeta + "/no-hi-es.db").find("unable to open database file (14)"), std::string::npos);
-  EXPECT_FALSE(std::filesystem::exists(carpeta + "/no-hi-es.db"));
-  EXPECT_NE(Paraules_En_Obrir("").find("unable to open database file (14)"), std::string::npos);
+  const std::string no_hi_es = carpeta + "/no-hi-es.db";
+  EXPECT_EQ(Paraules_En_Obrir(no_hi_es), Descripcio_Falla(Falla::Sense_Connexio) + ": " + no_hi_es);
+  EXPECT_FALSE(std::filesystem::exists(no_hi_es));
+  EXPECT_EQ(Paraules_En_Obrir(""), Descripcio_Falla(Falla::Sense_Connexio));
 }
 
 TEST_F(Enllac, A_damaged_file_says_so) {
@@ -68,7 +69,7 @@ TEST_F(Enllac, A_folder_without_permission_is_an_error) {
     return;
   }
   chmod(carpeta.c_str(), 0);
-  EXPECT_NE(Paraules_En_Obrir(cami).find("unable to open"), std::string::npos);
+  EXPECT_EQ(Paraules_En_Obrir(cami), Descripcio_Falla(Falla::Sense_Connexio) + ": " + cami);
   chmod(carpeta.c_str(), 0700);
 }
 
@@ -107,7 +108,8 @@ TEST_F(Enllac, A_file_that_another_terminal_keeps_locked_is_an_error_and_then_us
     FAIL() << "the file was locked";
   } catch (const Error_Brollador& error) {
     EXPECT_EQ(error.Numero(), errors::general);
-    EXPECT_EQ(error.Descripcio(), "database is locked (5)");
+    EXPECT_EQ(error.Motiu(), Falla::Espera);
+    EXPECT_EQ(error.Descripcio(), Descripcio_Falla(Falla::Espera));
   }
   altra.CommitTrans();
   impacient.Execute("INSERT INTO CLIENTS (NIF_CLI) VALUES ('mine')");

@@ -148,3 +148,30 @@ TEST_F(Dialecte, A_derived_table_needs_no_name) {
   Document(1, {});
   EXPECT_EQ(Un_Valor("SELECT MAX(NUM_C) FROM (SELECT NUM_C FROM CAP)"), Valor(1));
 }
+
+TEST_F(Dialecte, What_cannot_be_a_statement_is_refused_and_not_read_for_ever) {
+  for (const char* sentencia :
+       {"SELECT [a\"b] FROM CLIENTS", "SELECT \"a FROM CLIENTS", "SELECT [a FROM CLIENTS",
+        "SELECT * FROM CLIENTS WHERE NIF_CLI LIKE", "SELECT", "SELECT * FROM CLIENTS WHERE ("}) {
+    EXPECT_EQ(Numero_Error([&] { connexio.Execute(sentencia); }), errors::sentencia) << sentencia;
+  }
+}
+
+TEST_F(Dialecte, A_bare_question_mark_is_a_faulty_statement) {
+  EXPECT_EQ(Numero_Error([&] { Escanejar("SELECT * FROM CLIENTS WHERE NIF_CLI = ?"); }), errors::sentencia);
+  EXPECT_EQ(Numero_Error([&] { Escanejar("SELECT ?1"); }), errors::sentencia);
+  EXPECT_EQ(Escanejar("SELECT '?' FROM CLIENTS").literals.front(), Valor("?"));
+}
+
+TEST_F(Dialecte, A_statement_is_cut_at_its_order_wherever_else_these_words_stand) {
+  EXPECT_EQ(Sense_Ordre("SELECT * FROM CLIENTS ORDER BY NIF_CLI"), "SELECT * FROM CLIENTS");
+  EXPECT_EQ(Sense_Ordre("SELECT * FROM CLIENTS order \n by NIF_CLI DESC "), "SELECT * FROM CLIENTS");
+  EXPECT_EQ(Sense_Ordre("SELECT * FROM CLIENTS "), "SELECT * FROM CLIENTS");
+  const std::string amb_paraules = "SELECT * FROM CLIENTS WHERE RAO_SOCIAL_CLI LIKE '%ORDER BY d''x%'";
+  EXPECT_EQ(Sense_Ordre(amb_paraules), amb_paraules);
+  EXPECT_EQ(Sense_Ordre(amb_paraules + " ORDER BY RAO_SOCIAL_CLI"), amb_paraules);
+  const std::string amb_noms = "SELECT REORDER, BY_1, \"ORDER BY\" FROM CLIENTS";
+  EXPECT_EQ(Sense_Ordre(amb_noms), amb_noms);
+  const std::string amb_derivada = "SELECT * FROM (SELECT TOP 1 NIF_CLI FROM CLIENTS ORDER BY NIF_CLI) WHERE 1 = 1";
+  EXPECT_EQ(Sense_Ordre(amb_derivada + " ORDER BY 1"), amb_derivada);
+}

@@ -1,5 +1,7 @@
 #include "core/dades/Recordset.h"
 
+#include <unistd.h>
+
 #include "tests/dades/Base_Dades.h"
 
 using Conjunt = Base_Dades;
@@ -231,8 +233,12 @@ TEST_F(Conjunt, A_pessimistic_edit_holds_the_row_against_other_terminals) {
   Client("2", "B");
   Recordset mine("SELECT * FROM CLIENTS ORDER BY NIF_CLI", connexio, Bloqueig::Pessimista);
   Recordset theirs("SELECT * FROM CLIENTS ORDER BY NIF_CLI", altra, Bloqueig::Pessimista);
+  mine.Edit();
   mine.Set("RAO_SOCIAL_CLI", "A2");
-  EXPECT_EQ(Numero_Error([&] { theirs.Set("RAO_SOCIAL_CLI", "A3"); }), errors::general);
+  EXPECT_EQ(Motiu_Error([&] { theirs.Edit(); }), Falla::Fila_Retinguda);
+  theirs.Set("RAO_SOCIAL_CLI", "A3");
+  EXPECT_EQ(Motiu_Error([&] { theirs.Update(); }), Falla::Fila_Retinguda);
+  theirs.CancelUpdate();
   theirs.MoveNext();
   theirs.Set("RAO_SOCIAL_CLI", "B2");
   theirs.CancelUpdate();
@@ -243,15 +249,43 @@ TEST_F(Conjunt, A_pessimistic_edit_holds_the_row_against_other_terminals) {
   EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"), Valor("A3"));
 }
 
+TEST_F(Conjunt, A_row_written_at_once_is_held_by_nobody_afterwards) {
+  Client("1", "A");
+  Recordset mine("SELECT * FROM CLIENTS", connexio, Bloqueig::Pessimista);
+  Recordset theirs("SELECT * FROM CLIENTS", altra, Bloqueig::Pessimista);
+  const std::int64_t abans = connexio.Viatges();
+  connexio.BeginTrans();
+  mine.Set("RAO_SOCIAL_CLI", "A2");
+  mine.Update();
+  connexio.CommitTrans();
+  EXPECT_LE(connexio.Viatges() - abans, 2);
+  theirs.Set("RAO_SOCIAL_CLI", "stale");
+  EXPECT_EQ(Numero_Error([&] { theirs.Update(); }), errors::concurrencia);
+  theirs.CancelUpdate();
+  theirs.Requery();
+  theirs.Edit();
+  EXPECT_EQ(Motiu_Error([&] { mine.Edit(); }), Falla::Fila_Retinguda);
+  theirs.Set("RAO_SOCIAL_CLI", "A3");
+  altra.BeginTrans();
+  theirs.Update();
+  altra.RollbackTrans();
+  mine.Edit();
+  mine.CancelUpdate();
+  EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"), Valor("A2"));
+}
+
 TEST_F(Conjunt, A_hold_goes_with_the_connection_of_a_dead_terminal) {
   Client("1", "A");
   {
     Connexio morta;
     morta.Open(cami);
     auto rs = std::make_unique<Recordset>("SELECT * FROM CLIENTS", morta, Bloqueig::Pessimista);
-    rs->Set("RAO_SOCIAL_CLI", "X");
+    rs->Edit();
+    morta.Close();
   }
   Recordset rs("SELECT * FROM CLIENTS", connexio, Bloqueig::Pessimista);
+  // A server takes a moment to see that somebody went.
+  for (int i = 0; i < 500 && Motiu_Error([&] { rs.Edit(); }) != Falla::Cap; ++i) usleep(10000);
   rs.Set("RAO_SOCIAL_CLI", "B");
   rs.Update();
   EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"), Valor("B"));
@@ -265,8 +299,51 @@ TEST_F(Conjunt, Reopen_takes_another_statement_and_a_faulty_one_leaves_the_old_s
   EXPECT_EQ(rs["NIF_CLI"], Valor("2"));
   EXPECT_EQ(Numero_Error([&] { rs.Reopen("SELECT * FROM CLIENTS ORDER BY RES_DE_RES"); }), errors::sentencia);
   EXPECT_EQ(rs.RecordCount(), 2);
+  EXPECT_EQ(rs.Source(), "SELECT * FROM CLIENTS ORDER BY RAO_SOCIAL_CLI");
   rs.Set("ADREÇA_CLI", "Carrer");
   rs.Update();
+}
+
+TEST_F(Conjunt, A_set_that_cannot_be_read_again_keeps_its_rows_and_its_filter) {
+  Client("1", "B");
+  Client("2", "A");
+  Recordset rs("SELECT * FROM CLIENTS ORDER BY NIF_CLI", connexio);
+  rs.Filter("RAO_SOCIAL_CLI = 'A'");
+  connexio.Close();
+  EXPECT_EQ(Motiu_Error([&] { rs.Requery(); }), Falla::Sense_Connexio);
+  EXPECT_EQ(Motiu_Error([&] { rs.Reopen("SELECT * FROM CAP"); }), Falla::Sense_Connexio);
+  EXPECT_TRUE(rs.State());
+  EXPECT_TRUE(Recordset_Registrat("SELECT * FROM CLIENTS ORDER BY NIF_CLI"));
+  EXPECT_EQ(rs.RecordCount(), 1);
+  EXPECT_EQ(rs["NIF_CLI"], Valor("2"));
+  connexio.Open(cami);
+  rs.Requery();
+  EXPECT_EQ(rs.RecordCount(), 1);
+  rs.Reopen("SELECT * FROM CLIENTS");
+  EXPECT_EQ(rs.RecordCount(), 2);
+}
+
+TEST_F(Conjunt, A_set_whose_server_is_away_closes_without_raising) {
+  if (!Proves_Al_Servidor()) GTEST_SKIP() << "of a server";
+  Client("1", "B");
+  auto rs = std::make_unique<Recordset>("SELECT * FROM CLIENTS", connexio, Bloqueig::Pessimista);
+  rs->Edit();
+  servidor->Marxar();
+  EXPECT_EQ(Motiu_Error([&] { rs->Requery(); }), Falla::Sense_Connexio);
+  EXPECT_EQ(rs->RecordCount(), 1);
+  EXPECT_EQ(rs->EditMode(), Edicio::Cap);
+  EXPECT_NO_THROW(rs->Close());
+  EXPECT_NO_THROW(rs.reset());
+  servidor->Tornar();
+  EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"), Valor("B"));
+}
+
+TEST_F(Conjunt, A_set_whose_last_row_was_deleted_is_at_both_ends) {
+  Client("1", "A");
+  Recordset rs("SELECT * FROM CLIENTS", connexio, Bloqueig::Optimista);
+  rs.Delete();
+  EXPECT_TRUE(rs.Eof() && rs.Bof());
+  EXPECT_EQ(rs.AbsolutePosition(), -1);
 }
 
 TEST_F(Conjunt, The_registry_follows_opening_and_closing) {
@@ -284,7 +361,11 @@ TEST_F(Conjunt, Two_recordsets_with_one_source_share_an_entry) {
   auto segon = std::make_unique<Recordset>("SELECT * FROM CLIENTS", connexio);
   EXPECT_EQ(Comptar_Recordsets_Oberts(), 1U);
   segon.reset();
-  EXPECT_FALSE(Recordset_Registrat("SELECT * FROM CLIENTS"));
+  EXPECT_TRUE(Recordset_Registrat("SELECT * FROM CLIENTS"));
+  EXPECT_EQ(Comptar_Recordsets_Oberts(), 1U);
+  Tancar_Recordsets();
+  EXPECT_FALSE(primer.State());
+  EXPECT_EQ(Comptar_Recordsets_Oberts(), 0U);
 }
 
 TEST_F(Conjunt, Tancar_Recordsets_closes_every_open_one) {
