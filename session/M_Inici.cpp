@@ -3,6 +3,9 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -10,11 +13,14 @@
 #include <vector>
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/dades/Registre_Errors.h"
 #include "schema/Definicions.h"
 
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr const char* dades_en_una_casa = "/.local/share";
 
 // Null when the variable is missing or is no absolute path, which the desktop's standard tells to ignore.
 const char* Cami_De_Variable(const char* nom) {
@@ -26,7 +32,24 @@ std::string Carpeta_Dades_Usuari() {
   if (const char* dades = Cami_De_Variable("XDG_DATA_HOME")) return dades;
   const char* casa = Cami_De_Variable("HOME");
   const passwd* usuari = casa ? nullptr : getpwuid(geteuid());
-  return std::string(casa ? casa : usuari ? usuari->pw_dir : "") + "/.local/share";
+  return std::string(casa ? casa : usuari ? usuari->pw_dir : "") + dades_en_una_casa;
+}
+
+// The same for every way to write it.
+std::string Cami_Unic(const std::string& cami) {
+  std::error_code error;
+  const std::filesystem::path unic = std::filesystem::weakly_canonical(cami, error);
+  if (error) return cami;
+  return unic.has_filename() ? unic.string() : unic.parent_path().string();
+}
+
+// Eight digits that tell a folder from others (FNV-1a).
+std::string Marca_De_Carpeta(const std::string& carpeta) {
+  std::uint32_t marca = 2166136261U;
+  for (const char c : Cami_Unic(carpeta)) marca = (marca ^ static_cast<unsigned char>(c)) * 16777619U;
+  std::array<char, 9> text{};
+  std::snprintf(text.data(), text.size(), "%08x", marca);
+  return text.data();
 }
 
 // The first item of a text: up to its closing quote, or up to a comma or the end of the line.
@@ -55,7 +78,10 @@ std::string Nom_Equip() {
   char equip[256] = {};
   gethostname(equip, sizeof equip - 1);
   const passwd* usuari = getpwuid(geteuid());
-  return std::string(equip) + "/" + (usuari ? usuari->pw_name : std::to_string(geteuid()));
+  std::string nom = std::string(equip) + "/" + (usuari ? usuari->pw_name : std::to_string(geteuid()));
+  std::replace(nom.begin(), nom.end(), '\'', '_');  // it stands in statements
+  const std::string habitual = usuari ? std::string(usuari->pw_dir) + dades_en_una_casa + "/brollador" : std::string();
+  return Cami_Unic(sessio.Dir_Dades) == Cami_Unic(habitual) ? nom : nom + "/" + Marca_De_Carpeta(sessio.Dir_Dades);
 }
 
 void Llegir_Ini() {
@@ -129,6 +155,7 @@ void Carregar_Parametres() {
 
 void Preparar_Inici() {
   Fixar_Directoris();
+  Obrir_Registre_Errors(sessio.Dir_Dades + "/errors.log");
   sessio.Equip_Actual = Nom_Equip();
   try {
     Llegir_Ini();

@@ -5,7 +5,9 @@
 
 // Dir_Dades and what hangs from it. The folder is the user's data folder of the desktop standard.
 void Fixar_Directoris();
-// Computer name, "/", user name.
+// The name of this terminal in LOCKS: computer, "/", account; behind another "/" the mark of its data folder
+// (Dir_Dades), where that is not the account's usual one. So no two terminals that run at once share a name, and each
+// keeps its own.
 std::string Nom_Equip();
 // Reads Fitxer_Ini into Fitxer_Comu: one item, with or without double quotes, cut at the first comma. Raises 53.
 void Llegir_Ini();

@@ -1,6 +1,12 @@
 #include "session/M_Inici.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <fstream>
+#include <set>
+
+#include "core/dades/Registre_Errors.h"
 
 #include "tests/regles/Base.h"
 
@@ -62,10 +68,35 @@ TEST_F(Inici, a_relative_data_folder_is_ignored) {
 }
 
 TEST_F(Inici, a_terminal_is_named_after_its_computer_and_its_user_and_keeps_its_name) {
+  sessio.Dir_Dades = std::string(getpwuid(geteuid())->pw_dir) + "/.local/share/brollador";
   const std::string nom = Nom_Equip();
+  char equip[256] = {};
+  gethostname(equip, sizeof equip - 1);
+  EXPECT_TRUE(nom.starts_with(std::string(equip) + "/"));
   EXPECT_EQ(std::count(nom.begin(), nom.end(), '/'), 1);
-  EXPECT_FALSE(nom.starts_with('/') || nom.ends_with('/'));
+  EXPECT_FALSE(nom.ends_with('/'));
   EXPECT_EQ(Nom_Equip(), nom);
+}
+
+TEST_F(Inici, two_data_folders_of_one_account_are_two_terminals) {
+  std::set<std::string> noms;
+  for (const char* carpeta_dades : {"/un", "/dos", "/d'Anoia"}) {
+    sessio.Dir_Dades = carpeta.Cami() + carpeta_dades;
+    noms.insert(Nom_Equip());
+    EXPECT_NO_THROW(Text_SQL(Nom_Equip()));
+  }
+  EXPECT_EQ(noms.size(), 3U);
+  for (const auto& nom : noms) EXPECT_EQ(std::count(nom.begin(), nom.end(), '/'), 2) << nom;
+  sessio.Dir_Dades = carpeta.Cami() + "/tres/../un/";
+  EXPECT_TRUE(noms.contains(Nom_Equip()));
+}
+
+TEST_F(Inici, errors_are_logged_in_the_data_folder) {
+  Installar();
+  Escriure_Ini(carpeta.Cami() + "/no-hi-es.db");
+  EXPECT_EQ(Error_De(Preparar_Inici).Motiu(), Falla::Sense_Connexio);
+  EXPECT_TRUE(std::filesystem::exists(sessio.Dir_Dades + "/errors.log"));
+  Obrir_Registre_Errors({});
 }
 
 TEST_F(Inici, the_ini_file_is_one_path) {
