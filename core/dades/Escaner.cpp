@@ -75,6 +75,7 @@ class Escaner {
     const Data_Hora data{.any = parts[2], .mes = parts[0], .dia = parts[1]};
     if (!be || !Es_Data(data)) Sentencia_Erronia("#" + std::string(dins));
     i_ = fi + 1;
+    if (i_ < text_.size() && Es_De_Nom(text_[i_])) Sentencia_Erronia(text_.substr(i_, 20));
     Literal(data);
   }
 

@@ -151,8 +151,9 @@ TEST_F(Dialecte, A_derived_table_needs_no_name) {
 
 TEST_F(Dialecte, What_cannot_be_a_statement_is_refused_and_not_read_for_ever) {
   for (const char* sentencia :
-       {"SELECT [a\"b] FROM CLIENTS", "SELECT \"a FROM CLIENTS", "SELECT [a FROM CLIENTS",
-        "SELECT * FROM CLIENTS WHERE NIF_CLI LIKE", "SELECT", "SELECT * FROM CLIENTS WHERE ("}) {
+       {"SELECT [a\"b] FROM CLIENTS", "SELECT * FROM CLIENTS WHERE ALTA_CLI > #3/5/2011#0", "SELECT \"a FROM CLIENTS",
+        "SELECT [a FROM CLIENTS", "SELECT * FROM CLIENTS WHERE NIF_CLI LIKE", "SELECT",
+        "SELECT * FROM CLIENTS WHERE ("}) {
     EXPECT_EQ(Numero_Error([&] { connexio.Execute(sentencia); }), errors::sentencia) << sentencia;
   }
 }
