@@ -138,7 +138,7 @@ class Nota_Nua {
 };
 
 void Omplir_Nota_Llarga(std::int64_t numero) {
-  sessio.Connexio_Comuna.BeginTrans();
+  Transaccio transaccio(sessio.Connexio_Comuna);
   for (int i = 1; i <= linies_nota_llarga; ++i) {
     sessio.Connexio_Comuna.Execute(
         "INSERT INTO ALBARALIN (NUMALB_AL, EMPRESA_AL, LIN_AL, ARTICLE_AL, DESCRIPCIO_AL, UNITATS_AL, PORC_IVA_AL, "
@@ -146,7 +146,7 @@ void Omplir_Nota_Llarga(std::int64_t numero) {
         std::to_string(numero) + ", '" + empresa_mesura + "', " + std::to_string(i) + ", " + Text_SQL(Codi_Article(i)) +
         ", 'Article de la mesura', 2, 21, 26, 31.46)");
   }
-  sessio.Connexio_Comuna.CommitTrans();
+  transaccio.Confirmar();
 }
 
 void Comparar_Resultats(Base_Nua& nua) {

@@ -1,13 +1,14 @@
 #include "bench/Nota_Oberta.h"
 
 #include "core/M_Funcions_Comuns.h"
+#include "sales/M_Tipus_Venda.h"
 
 std::string Codi_Article(int n) {
   return "ART" + std::to_string(1000 + n % articles_mesura);
 }
 
 void Sembrar_Articles(Connexio& connexio) {
-  connexio.BeginTrans();
+  Transaccio transaccio(connexio);
   for (int i = 0; i < articles_mesura; ++i) {
     const std::string codi = Codi_Article(i);
     connexio.Afegir_Fila("ARTICLES", {{"CODI_ART", codi},
@@ -21,7 +22,7 @@ void Sembrar_Articles(Connexio& connexio) {
     connexio.Afegir_Fila(
         "STOCK", {{"EMPRESA_ST", empresa_mesura}, {"CODI_ART_ST", codi}, {"ALMACEN_ST", "1"}, {"UNIDADES_ST", 100000}});
   }
-  connexio.CommitTrans();
+  transaccio.Confirmar();
 }
 
 Linia_Entrada Linia_Mesura(int n) {
@@ -42,7 +43,7 @@ Nota_Oberta::Nota_Oberta(std::int64_t numero)
 }
 
 void Nota_Oberta::Afegir(const Linia_Entrada& linia) {
-  Transaccio transaccio;
+  Transaccio transaccio(sessio.Connexio_Comuna);
   Afegir_Linia_Albara(cap_, linia, linies_, *this);
   transaccio.Confirmar();
 }

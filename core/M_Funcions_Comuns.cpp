@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "core/dades/Dates.h"
 #include "core/dades/Numeros.h"
 #include "core/dades/Registre_Errors.h"
 
@@ -14,6 +15,8 @@ double Arrodonir(double valor, double decimals) {
   const double signe = valor > 0 ? 1 : valor < 0 ? -1 : 0;
   // The text form rounds to 15 digits by itself: it is what takes 100.99999999999999 to 101 before the cut.
   const std::string text = Text_Numero(factor * valor + signe * 0.5);
+  // From 1E+15 on it has an exponent, which a cut would lose.
+  if (text.find_first_not_of("-0123456789,") != std::string::npos) Llancar_Error(errors::desbordament, "Arrodonir");
   const double sencer = Numero_De_Text(text.substr(0, text.find(','))).value_or(0);
   return sencer / factor + 0.0;  // no negative zero
 }
@@ -64,6 +67,7 @@ Data_Hora Avui() {
 }
 
 void Fixar_Rellotge(std::function<Data_Hora()> rellotge) {
+  Fixar_Rellotge_Local(rellotge);
   rellotge_actual = std::move(rellotge);
 }
 
@@ -154,33 +158,4 @@ void Alliberar_Entrada() {
   if (!sessio.Entrada_Bloquejada) return;
   sessio.Entrada_Bloquejada = false;
   sessio.pantalla->Alliberar_Entrada();
-}
-
-// ---- Transactions
-
-Transaccio::Transaccio() : propia_(!sessio.Transaccio_Oberta) {
-  if (!propia_) return;
-  sessio.Connexio_Comuna.BeginTrans();
-  sessio.Transaccio_Oberta = true;
-}
-
-Transaccio::~Transaccio() {
-  if (propia_) Desfer_Transaccio();
-}
-
-void Transaccio::Confirmar() {
-  // The flag may be clear already: a stock transfer commits the transaction of its caller.
-  if (!propia_ || !sessio.Transaccio_Oberta) return;
-  sessio.Connexio_Comuna.CommitTrans();
-  sessio.Transaccio_Oberta = false;
-  propia_ = false;
-}
-
-void Desfer_Transaccio() noexcept {
-  if (!std::exchange(sessio.Transaccio_Oberta, false)) return;
-  try {
-    sessio.Connexio_Comuna.RollbackTrans();
-  } catch (const Error_Brollador&) {
-    // The engine is out of reach, and its transaction went with it. The error that brought us here is under way.
-  }
 }

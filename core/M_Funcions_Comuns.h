@@ -1,5 +1,5 @@
 // Common routines that everything else calls: rounding, nulls, dates for statements, the server's clock, positions of
-// lists, transactions, and how errors and messages reach the user. Touches no table but ARTICLES (the server's clock).
+// lists, and how errors and messages reach the user. Touches no table but ARTICLES (the server's clock).
 #pragma once
 
 #include <functional>
@@ -53,19 +53,3 @@ void Mostrar_Error(const Error_Brollador& error);
 // The system's input while a document is saved: typed keys and clicks are swallowed. Releasing twice is harmless.
 void Bloquejar_Entrada();
 void Alliberar_Entrada();
-
-// A transaction on Connexio_Comuna around a document's change, unless one is open already (then it does nothing).
-// Rolls back and clears Transaccio_Oberta when it is left without Confirmar.
-class Transaccio {
- public:
-  Transaccio();
-  ~Transaccio();
-  Transaccio(const Transaccio&) = delete;
-  Transaccio& operator=(const Transaccio&) = delete;
-  void Confirmar();  // commits when this one began it
-
- private:
-  bool propia_ = false;
-};
-// Rolls back when Transaccio_Oberta and clears it.
-void Desfer_Transaccio() noexcept;

@@ -8,7 +8,7 @@
 
 Valor Camp_De(const Lloc& clau, const std::string& codi, const char* camp) {
   const Recordset rs(
-      std::string("SELECT ") + camp + " FROM " + clau.taula + " WHERE " + clau.columna + " = " + Text_SQL(codi),
+      std::string("SELECT ") + camp + " FROM " + clau.taula + " WHERE " + clau.columna + " = " + Codi_SQL(codi),
       sessio.Connexio_Comuna);
   return rs.RecordCount() > 0 ? rs[0] : Valor();
 }
@@ -29,20 +29,20 @@ bool Es_En_Us(std::span<const Lloc> llocs, const std::string& codi) {
                      [&](const Lloc& lloc) { return Camp_De(lloc, codi, "COUNT(*) AS CUENTA").Enter() > 0; });
 }
 
-bool Confirmar(const Pregunta& paraules, const std::string& que) {
+bool Confirmar(const Pregunta& paraules, const std::string& que, int icona) {
   const std::string text = Missatge(paraules.catala, paraules.castella, paraules.angles) + que + " ?";
-  return sessio.pantalla->Caixa(text, estil::ok_cancel) == Resposta::Ok;
+  return sessio.pantalla->Caixa(text, estil::ok_cancel | icona) == Resposta::Ok;
 }
 
 void Esborrar_Mestre(const Pregunta& paraules, const std::string& que, const Lloc& clau, const std::string& codi,
                      std::span<const Lloc> us) {
   if (!Confirmar(paraules, que) || Es_En_Us(us, codi)) return;
   sessio.Connexio_Comuna.Execute(std::string("DELETE * FROM ") + clau.taula + " WHERE " + clau.columna + " = " +
-                                 Text_SQL(codi));
+                                 Codi_SQL(codi));
 }
 
 void Crear_Fila(const char* taula, const std::vector<std::pair<std::string_view, Valor>>& valors) {
-  Transaccio transaccio;
+  Transaccio transaccio(sessio.Connexio_Comuna);
   sessio.Connexio_Comuna.Afegir_Fila(taula, valors);
   transaccio.Confirmar();
 }

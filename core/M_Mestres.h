@@ -25,6 +25,13 @@ std::string Descripcio_De(const Referencia& referencia, const std::string& codi)
 // The first code of that description, in any case; empty when there is none.
 std::string Codi_De(const Referencia& referencia, const std::string& descripcio);
 
+// The names that a combo offers, and the codes behind them.
+struct Noms_Amb_Codi {
+  std::string (*sentencia)();
+  const char* codi;  // columns of the statement
+  const char* nom;
+};
+
 // A row of these tables names the code: they are asked in their order, up to the first that does. All companies count.
 bool Es_En_Us(std::span<const Lloc> llocs, const std::string& codi);
 
@@ -34,7 +41,7 @@ struct Pregunta {
   const char* angles;
 };
 // The words, what it is about and " ?", with OK and Cancel; true on OK.
-bool Confirmar(const Pregunta& paraules, const std::string& que);
+bool Confirmar(const Pregunta& paraules, const std::string& que, int icona = 0);
 
 // The question, and on OK the row deleted unless its code is in use; then nothing is done and nothing said.
 // Writes `clau.taula`.

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/dades/Valor.h"
 
@@ -37,9 +38,12 @@ class Pantalla {
  public:
   virtual ~Pantalla() = default;
 
-  // A message box. Titles other than the system's name are rare.
-  virtual Resposta Caixa(const std::string& text, int estil, const std::string& titol) = 0;
-  Resposta Caixa(const std::string& text, int estil) { return Caixa(text, estil, "Brollador"); }
+  // A message box; titles other than the system's name are rare. Input is let go for it. Nothing opens between the
+  // first write of a transaction and its end, since all other terminals would wait for whoever has to answer: a message
+  // waits for the end (Mostrar_Pendents), and a question is a mistake of ours, which std::logic_error tells.
+  Resposta Caixa(const std::string& text, int estil, const std::string& titol = "Brollador");
+  // The messages that waited, in their order; none while there is still something written and not committed.
+  void Mostrar_Pendents();
 
   // Is a form of this name loaded; names are compared without case.
   virtual bool Formulari_Carregat(std::string_view nom) const = 0;
@@ -50,15 +54,30 @@ class Pantalla {
   virtual void Bloquejar_Entrada() = 0;  // keys and clicks are swallowed until released
   virtual void Alliberar_Entrada() = 0;
 
-  // The company chooser: the NIF of the company picked, or the empty text.
-  virtual std::string Triar_Empresa(const std::string& actual, int idioma) = 0;
+  // The company chooser: the NIF of the company picked, or the empty text. A question too.
+  std::string Triar_Empresa(const std::string& actual, int idioma);
 
   // Entries of the main menu, by name.
   virtual void Menu_Habilitat(std::string_view entrada, bool habilitat) = 0;
   virtual void Menu_Visible(std::string_view entrada, bool visible) = 0;
   virtual void Menu_Marcat(std::string_view entrada, bool marcat) = 0;
   virtual void Menu_Text(std::string_view entrada, const std::string& text) = 0;
+
+ protected:
+  virtual Resposta Obrir_Caixa(const std::string& text, int estil, const std::string& titol) = 0;
+  virtual std::string Obrir_Tria_Empresa(const std::string& actual, int idioma) = 0;
+
+ private:
+  struct Missatge_Pendent {
+    std::string text;
+    int estil;
+    std::string titol;
+  };
+  std::vector<Missatge_Pendent> pendents_;
 };
+
+// Raises std::logic_error when something is written and not committed: for whatever is about to wait for the user.
+void Exigir_Res_Escrit(std::string_view que);
 
 // Where the session keeps its screen port. Using it before a screen is set is a mistake of ours, and says so.
 class Port_Pantalla {

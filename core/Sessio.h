@@ -23,7 +23,8 @@ struct Sessio {
 
   Connexio Connexio_Comuna;
   Connexio Connexio_Local;
-  bool Transaccio_Oberta = false;  // a flag, not a counter
+  // One on Connexio_Comuna.
+  bool Transaccio_Oberta() const { return Connexio_Comuna.En_Transaccio(); }
 
   std::string Equip_Actual;
   std::map<std::string, std::string> Parametres;  // keys compared as bytes
@@ -58,12 +59,18 @@ struct Sessio {
   bool Error_Mostrat = false;       // the failure under way has been shown
   bool Entrada_Bloquejada = false;  // the system's input is blocked
 
-  std::int64_t Numero_Albara = 0;  // the note that F_Albara is to open
-  std::string Codi_Usuari;         // the rows that the editors are to open: F_Usuari,
-  std::string Nif_Client;          // F_Client,
-  std::string Nif_Proveidor;       // F_Proveidor,
-  std::string Codi_Article;        // F_Article,
-  std::string Nif_Empresa;         // F_Empresa
+  // The documents and the rows that the editors are to open.
+  Valor Numero_Pressupost;
+  Valor Numero_Comanda;
+  Valor Numero_Albara;
+  Valor Numero_Factura;
+  Valor Numero_AlbCompra;
+  Valor Numero_AlbMag;
+  std::string Codi_Usuari;
+  std::string Nif_Client;
+  std::string Nif_Proveidor;
+  std::string Codi_Article;
+  std::string Nif_Empresa;
 
   std::set<std::string, std::less<>> Bloquejos;  // codes of LOCKS whose form, on this terminal, holds a lock
 

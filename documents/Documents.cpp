@@ -1,97 +1,21 @@
 #include "documents/Documents.h"
 
-#include <array>
+#include <algorithm>
+#include <cmath>
 #include <limits>
 #include <sstream>
 
 #include "core/M_Funcions_Comuns.h"
-#include "payments/M_Pagaments.h"
-
-const Tipus_Document tipus_pressupost = {
-    .formulari = "F_PRESSUPOST",
-    .llista = "F_PRESSUPOSTOSM",
-    .cap = {"PRESSUPOSTCAP", "PC"},
-    .lin = {"PRESSUPOSTLIN", "PL"},
-    .peu = {"PRESSUPOSTPEU", "PP"},
-    .lletra_bloqueig = "PR",
-    .lletra_pagament = "",
-    .numero_es_text = false,
-    .columnes_linies =
-        "NUMALB EMPRESA LIN ARTICLE DESCRIPCIO PREU_UNITARI UNITATS PORC_IVA PORC_RE IMPORT_NET DTE PVP "
-        "ESTAT COST PORC_MARGE MARGE IMPORT_BRUT",
-    .peu_exigeix_capcalera = false};
-
-const Tipus_Document tipus_comanda = {
-    .formulari = "F_COMANDA",
-    .llista = "F_COMANDESM",
-    .cap = {"COMANDACAP", "CC"},
-    .lin = {"COMANDALIN", "CL"},
-    .peu = {"COMANDAPEU", "CP"},
-    .lletra_bloqueig = "P",
-    .lletra_pagament = "P",
-    .numero_es_text = false,
-    .columnes_linies =
-        "NUMALB EMPRESA LIN ARTICLE DESCRIPCIO PREU_UNITARI UNITATS PORC_IVA PORC_RE IMPORT_NET DTE PVP "
-        "SERVIDES COST PORC_MARGE MARGE IMPORT_BRUT",
-    .peu_exigeix_capcalera = false};
-
-const Tipus_Document tipus_albara = {
-    .formulari = "F_ALBARA",
-    .llista = "F_ALBARANSM",
-    .cap = {"ALBARACAP", "AC"},
-    .lin = {"ALBARALIN", "AL"},
-    .peu = {"ALBARAPEU", "AP"},
-    .lletra_bloqueig = "AC",
-    .lletra_pagament = "A",
-    .numero_es_text = false,
-    .columnes_linies =
-        "NUMALB EMPRESA LIN ARTICLE DESCRIPCIO PREU_UNITARI UNITATS PORC_IVA PORC_RE IMPORT_NET DTE PVP "
-        "COST PORC_MARGE MARGE IMPORT_BRUT COMANDA COMANDA_LIN",
-    .peu_exigeix_capcalera = false};
-
-const Tipus_Document tipus_factura = {
-    .formulari = "F_FACTURA",
-    .llista = "F_FACTURESM",
-    .cap = {"FACTURACAP", "FC"},
-    .lin = {"FACTURALIN", "FL"},
-    .peu = {"FACTURAPEU", "FP"},
-    .lletra_bloqueig = "F",
-    .lletra_pagament = "F",
-    .numero_es_text = false,
-    .columnes_linies =
-        "NUMALB EMPRESA LIN ARTICLE DESCRIPCIO PREU_UNITARI UNITATS PORC_IVA PORC_RE IMPORT_NET DTE PVP "
-        "COST PORC_MARGE MARGE IMPORT_BRUT",
-    .peu_exigeix_capcalera = true};
-
-const Tipus_Document tipus_albcompra = {
-    .formulari = "F_ALBCOMPRA",
-    .llista = "F_ALBCOMPRESM",
-    .cap = {"ALBCOMPRACAP", "ACC"},
-    .lin = {"ALBCOMPRALIN", "ACL"},
-    .peu = {"ALBCOMPRAPEU", "ACP"},
-    .lletra_bloqueig = "C",
-    .lletra_pagament = "",
-    .numero_es_text = true,
-    .columnes_linies =
-        "NUMALB EMPRESA LIN ARTICLE DESCRIPCIO PREU_UNITARI UNITATS PORC_IVA PORC_RE IMPORT_NET DTE PVP "
-        "COST PORC_MARGE MARGE IMPORT_BRUT",
-    .peu_exigeix_capcalera = false};
-
-const Tipus_Document tipus_albmag = {.formulari = "F_ALBMAG",
-                                     .llista = "F_ALBMAGM",
-                                     .cap = {"ALBALMCAP", "AAC"},
-                                     .lin = {"ALBALMLIN", "AAL"},
-                                     .peu = {"", ""},
-                                     .lletra_bloqueig = "AM",
-                                     .lletra_pagament = "",
-                                     .numero_es_text = false,
-                                     .columnes_linies = "NUMALB EMPRESA LIN ARTICLE DESCRIPCIO UNITATS PVP IMPORT_BRUT",
-                                     .peu_exigeix_capcalera = false};
+#include "core/dades/Numeros.h"
+#include "core/dades/Text.h"
+#include "session/M_Locks.h"
 
 namespace {
 
-constexpr std::array tots_els_tipus = {&tipus_pressupost, &tipus_comanda,   &tipus_albara,
-                                       &tipus_factura,    &tipus_albcompra, &tipus_albmag};
+std::vector<const Tipus_Document*>& Registre() {
+  static std::vector<const Tipus_Document*> tipus;
+  return tipus;
+}
 
 // The only row of a reading statement gives one value; null when there is no row.
 Valor Llegir_Valor(const std::string& sentencia) {
@@ -99,11 +23,27 @@ Valor Llegir_Valor(const std::string& sentencia) {
   return rs.RecordCount() > 0 ? rs[0] : Valor();
 }
 
-// The next of a count whose column ends at `maxim`: raises 6 beyond it.
+// The whole part of the last number of a count. What a supplier wrote counts as what ISNUMERIC takes for a number:
+// "$5" is 5, "12,5" is 12.
+double Part_Sencera(const Valor& ultim) {
+  if (!ultim.Es_Text()) return static_cast<double>(Nul_A_Defecte(ultim).Enter());
+  std::string text = ultim.Text();
+  text.erase(0, text.find_first_not_of(" $"));
+  return std::trunc(Numero_De_Text(text).value_or(0));
+}
+
+std::string SQL_Maxim(const Tipus_Document& tipus, const std::string& empresa) {
+  const std::string numero = tipus.cap.Columna("NUMALB");
+  return "SELECT MAX(" + numero + ") AS MAXIM FROM " + std::string(tipus.cap.nom) + " WHERE " +
+         tipus.cap.Columna("EMPRESA") + " = " + Text_SQL(empresa) +
+         (tipus.numero_es_text ? " AND ISNUMERIC(" + numero + ") = -1" : "");
+}
+
+// The next of a count that ends at `maxim`: raises 6 beyond it.
 std::int64_t Seguent(const Valor& ultim, std::int64_t maxim) {
-  const std::int64_t seguent = Nul_A_Defecte(ultim).Enter() + 1;
-  if (seguent > maxim) Llancar_Error(errors::desbordament, "Documents");
-  return seguent;
+  const double sencer = Part_Sencera(ultim);
+  if (sencer >= static_cast<double>(maxim)) Llancar_Error(errors::desbordament, "Documents");
+  return static_cast<std::int64_t>(std::max(sencer, -static_cast<double>(maxim))) + 1;
 }
 
 }  // namespace
@@ -112,10 +52,56 @@ std::string Taula_Document::Columna(std::string_view paper) const {
   return std::string(paper) + "_" + std::string(sufix);
 }
 
+Document_Inexistent::Document_Inexistent(const Tipus_Document& tipus)
+    : Error_Brollador(
+          errors::refusat, std::string(tipus.formulari),
+          Missatge("El document ja no existeix.", "El documento ya no existe.", "The document no longer exists.")) {}
+
+const Passos_Document& Passos_De(const Tipus_Document& tipus) {
+  static constexpr Passos_Document cap_pas;
+  return tipus.passos == nullptr ? cap_pas : *tipus.passos;
+}
+
+void Registrar_Tipus(const Tipus_Document& tipus) {
+  if (std::ranges::count(Registre(), &tipus) > 0) return;
+  Registre().push_back(&tipus);
+  Registrar_Bloqueig(std::string(tipus.lletra_bloqueig), std::string(tipus.formulari));
+}
+
+const std::vector<const Tipus_Document*>& Tipus_Registrats() {
+  return Registre();
+}
+
 const Tipus_Document* Tipus_De_Bloqueig(std::string_view lletra) {
-  for (const Tipus_Document* tipus : tots_els_tipus)
-    if (tipus->lletra_bloqueig == lletra) return tipus;
-  return nullptr;
+  const auto tipus = std::ranges::find(Registre(), lletra, &Tipus_Document::lletra_bloqueig);
+  return tipus == Registre().end() ? nullptr : *tipus;
+}
+
+std::optional<Valor> Numero_Escrit(const Tipus_Document& tipus, std::string_view text) {
+  const std::size_t primer = text.find_first_not_of(' ');
+  if (primer == std::string_view::npos) return std::nullopt;
+  const std::string net(text.substr(primer, text.find_last_not_of(' ') - primer + 1));
+  if (tipus.numero_es_text) return Valor(net);
+  const auto numero = Numero_De_Text(net);
+  if (!numero || *numero < 1 || *numero > std::numeric_limits<std::int32_t>::max() || *numero != std::trunc(*numero)) {
+    return std::nullopt;
+  }
+  return Valor(static_cast<std::int64_t>(*numero));
+}
+
+bool Mateix_Numero(const Valor& un, const Valor& altre) {
+  return Iguals_Plegats(un.Text(), altre.Text());
+}
+
+std::string Numero_Per_A_Fitxer(const Valor& numero) {
+  constexpr std::string_view prohibits = "/\\:*?\"<>|";
+  std::string nom = numero.Text();
+  for (char& lletra : nom) {
+    const bool es_de_control = static_cast<unsigned char>(lletra) < ' ';
+    if (es_de_control || prohibits.find(lletra) != std::string_view::npos) lletra = '-';
+  }
+  for (std::size_t lloc = nom.find(".."); lloc != std::string::npos; lloc = nom.find("..")) nom.replace(lloc, 2, "--");
+  return nom;
 }
 
 std::string Numero_Document_SQL(const Tipus_Document& tipus, const Valor& numero) {
@@ -132,24 +118,27 @@ Valor Crear_Capcalera(const Tipus_Document& tipus) {
   const Taula_Document& cap = tipus.cap;
   if (sessio.Empresa_Actual.find_first_not_of(' ') == std::string::npos)
     throw Error_Brollador(errors::refusat, "Empresa", "Empresa");
+  // Read together; the row itself is a write of its own.
+  Transaccio lectures(sessio.Connexio_Comuna);
+  sessio.Connexio_Comuna.Demanar(SQL_Maxim(tipus, sessio.Empresa_Actual));
   // Any row would do: the statement is there for a set with the columns of the head.
   Recordset rs(SQL_Capcalera(tipus, 1, "01"), sessio.Connexio_Comuna, Bloqueig::Optimista);
+  const Valor numero = Seguent_Numero(tipus, sessio.Empresa_Actual);
+  lectures.Confirmar();
   rs.AddNew();
   rs.Set(cap.Columna("EMPRESA"), sessio.Empresa_Actual);
   rs.Set(cap.Columna("EMP_DESC"), sessio.Nom_Empresa);
-  rs.Set(cap.Columna("NUMALB"), Seguent_Numero(tipus, sessio.Empresa_Actual));
+  rs.Set(cap.Columna("NUMALB"), numero);
   rs.Set(cap.Columna("DATA"), Avui());
   rs.Update();
   return rs[cap.Columna("NUMALB")];
 }
 
 Valor Seguent_Numero(const Tipus_Document& tipus, const std::string& empresa) {
-  const std::string numero = tipus.cap.Columna("NUMALB");
-  const std::string nomes_numeros = tipus.numero_es_text ? " AND ISNUMERIC(" + numero + ") = -1" : "";
-  const std::int64_t seguent =
-      Seguent(Llegir_Valor("SELECT MAX(" + numero + ") AS MAXIM FROM " + std::string(tipus.cap.nom) + " WHERE " +
-                           tipus.cap.Columna("EMPRESA") + " = " + Text_SQL(empresa) + nomes_numeros),
-              std::numeric_limits<std::int32_t>::max());
+  // Suppliers number their notes longer than we do.
+  constexpr std::int64_t ultim_de_text = 999'999'999'999'999;
+  const std::int64_t seguent = Seguent(Llegir_Valor(SQL_Maxim(tipus, empresa)),
+                                       tipus.numero_es_text ? ultim_de_text : std::numeric_limits<std::int32_t>::max());
   return tipus.numero_es_text ? Valor(std::to_string(seguent)) : Valor(seguent);
 }
 
@@ -161,6 +150,14 @@ std::int16_t Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, con
 
 bool Existeix_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
   return Recordset(SQL_Capcalera(tipus, numero, empresa), sessio.Connexio_Comuna).RecordCount() > 0;
+}
+
+void Exigir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  if (Existeix_Document(tipus, numero, empresa)) return;
+  const Document_Inexistent error(tipus);
+  sessio.Error_Mostrat = true;
+  sessio.pantalla->Caixa(error.Descripcio(), estil::critic);
+  throw error;
 }
 
 std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
@@ -177,17 +174,38 @@ bool Hi_Ha_Descomptes(const Tipus_Document& tipus, const Valor& numero, const st
   return rs.RecordCount() > 0;
 }
 
-void Esborrar_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
-  sessio.Connexio_Comuna.Execute("DELETE * FROM " + std::string(tipus.cap.nom) +
-                                 Condicio_Document(tipus, tipus.cap, numero, empresa));
+namespace {
+
+bool Te_Pagaments(const Tipus_Document& tipus, const Valor& numero) {
+  return tipus.te_pagaments != nullptr && tipus.te_pagaments(std::string(tipus.lletra_pagament), numero.Enter());
 }
 
-bool Esborrar_Document_Buit(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
-  if (Comptar_Linies(tipus, numero, empresa) > 0) return false;
-  if (!tipus.lletra_pagament.empty() && Tenir_Pagaments(std::string(tipus.lletra_pagament), numero.Enter()))
-    return false;
-  Esborrar_Document(tipus, numero, empresa);
-  return true;
+}  // namespace
+
+void Demanar_Esborrar_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  if (!Confirmar(tipus.pregunta_esborrar, numero.Text())) return;
+  if (Te_Pagaments(tipus, numero)) {
+    sessio.pantalla->Caixa("No es pot esborrar. Hi ha pagaments!", estil::critic);
+    return;
+  }
+  try {
+    Esborrar_Document(tipus, numero, empresa);
+  } catch (const Error_Brollador&) {
+    const Pregunta& refus = tipus.refus_esborrar;
+    if (refus.catala == nullptr) throw;
+    sessio.pantalla->Caixa(Missatge(refus.catala, refus.castella, refus.angles) + numero.Text() + " !!!",
+                           estil::critic);
+  }
+}
+
+bool Esborrar_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  return sessio.Connexio_Comuna.Execute("DELETE * FROM " + std::string(tipus.cap.nom) +
+                                        Condicio_Document(tipus, tipus.cap, numero, empresa)) > 0;
+}
+
+Buit Esborrar_Document_Buit(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  if (Comptar_Linies(tipus, numero, empresa) > 0 || Te_Pagaments(tipus, numero)) return Buit::Es_Queda;
+  return Esborrar_Document(tipus, numero, empresa) ? Buit::Esborrat : Buit::Perdut;
 }
 
 bool Intercanviar_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
@@ -199,10 +217,11 @@ bool Intercanviar_Linia(const Tipus_Document& tipus, const Valor& numero, const 
                    std::to_string(linia) + " ORDER BY " + lin + (avall ? "" : " DESC"));
   if (vei.Es_Nul()) return false;
   const auto renumerar = [&](std::int64_t de, std::int64_t a) {
-    sessio.Connexio_Comuna.Execute("UPDATE " + std::string(tipus.lin.nom) + " SET " + lin + " = " + std::to_string(a) +
-                                   condicio + " = " + std::to_string(de));
+    const int tocades = sessio.Connexio_Comuna.Execute("UPDATE " + std::string(tipus.lin.nom) + " SET " + lin + " = " +
+                                                       std::to_string(a) + condicio + " = " + std::to_string(de));
+    if (tocades == 0) Llancar_Error(errors::concurrencia, "Documents");  // another terminal deleted it meanwhile
   };
-  Transaccio transaccio;
+  Transaccio transaccio(sessio.Connexio_Comuna);
   renumerar(linia, 0);
   renumerar(vei.Enter(), linia);
   renumerar(0, vei.Enter());

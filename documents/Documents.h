@@ -6,10 +6,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "core/Sessio.h"
+#include "core/M_Mestres.h"
 
 struct Taula_Document {
   std::string_view nom;    // ALBARACAP
@@ -17,57 +21,6 @@ struct Taula_Document {
   // A role word with the table's suffix: Columna("NUMALB") is NUMALB_AC.
   std::string Columna(std::string_view paper) const;
 };
-
-struct Tipus_Document {
-  std::string_view formulari;  // F_ALBARA
-  std::string_view llista;     // F_ALBARANSM
-  Taula_Document cap;
-  Taula_Document lin;
-  Taula_Document peu;                // empty name: no foot (transfers)
-  std::string_view lletra_bloqueig;  // of LOCKS
-  std::string_view lletra_pagament;  // of PAGAMENTS; empty: none
-  bool numero_es_text;               // purchase notes carry the supplier's own number
-  std::string_view columnes_linies;  // role words of the lines grid, in its order, separated by blanks
-  bool peu_exigeix_capcalera;        // a foot total for a head that is missing is an error, not nothing
-};
-
-extern const Tipus_Document tipus_pressupost;
-extern const Tipus_Document tipus_comanda;
-extern const Tipus_Document tipus_albara;
-extern const Tipus_Document tipus_factura;
-extern const Tipus_Document tipus_albcompra;
-extern const Tipus_Document tipus_albmag;
-
-// The kind that a code of LOCKS stands for; null for any other code.
-const Tipus_Document* Tipus_De_Bloqueig(std::string_view lletra);
-
-// A number of a document for a statement: bare, or between quotes where it is text.
-std::string Numero_Document_SQL(const Tipus_Document& tipus, const Valor& numero);
-// " WHERE NUMALB_x = n AND EMPRESA_x = 'e'" on one of the kind's tables.
-std::string Condicio_Document(const Tipus_Document& tipus, const Taula_Document& taula, const Valor& numero,
-                              const std::string& empresa);
-
-// Creates the head (number, company, its name, today) and returns its number. Raises 1010 "Empresa" without a company,
-// the engine's error when another terminal took the number.
-Valor Crear_Capcalera(const Tipus_Document& tipus);
-Valor Seguent_Numero(const Tipus_Document& tipus, const std::string& empresa);
-// Raises 6 after line 32767.
-std::int16_t Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-bool Existeix_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-bool Hi_Ha_Descomptes(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-// The whole paper: lines and foot go with the head, by the database.
-void Esborrar_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-// On closing: a paper without lines and without payments goes. True when it went.
-bool Esborrar_Document_Buit(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-// Exchanges a line with its neighbour, through the spare number 0. False when there is none on that side.
-bool Intercanviar_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
-                        std::int16_t linia, bool avall);
-
-// Statements of the editors: the head, the lines grid, the foot grid.
-std::string SQL_Capcalera(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-std::string SQL_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-std::string SQL_Peu(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 
 // What the entry frame of an editor holds when the quantity is left.
 struct Linia_Entrada {
@@ -83,6 +36,7 @@ struct Linia_Entrada {
   double dte_article = 0;    // percent
   std::int64_t comanda = 0;  // order line that it serves; 0 none
   std::int16_t comanda_lin = 0;
+  std::map<std::string, std::string, std::less<>> altres{};  // further fields of the kind's frame, by role words
 };
 
 // The head as it stands on the form.
@@ -92,3 +46,118 @@ struct Capcalera_Oberta {
   bool iva = false;
   bool re = false;
 };
+
+// The stock that a line moves: looked at, and warned of, before the first write; asked for when the line stands;
+// posted.
+struct Apunt_Estoc {
+  std::function<void()> demanar;
+  std::function<void()> fer;
+};
+
+// What a kind does of its own around its lines. A step that is null is not taken.
+struct Passos_Document {
+  // The customer cannot change any more.
+  bool (*bloquejat)(const Valor& numero, const std::string& empresa) = nullptr;
+  // It will be asked in this transaction, when a line has been written (Connexio::Demanar).
+  void (*demanar_bloquejat)(const Valor& numero, const std::string& empresa) = nullptr;
+  // No more lines. Null: its state box tells.
+  bool (*tancat)(const Valor& numero, const std::string& empresa) = nullptr;
+
+  // A new line, in this order. The first one may refuse it, by raising; the second asks together for what the others
+  // will read (Connexio::Demanar).
+  void (*abans_d_afegir)(const Capcalera_Oberta& cap, const Linia_Entrada& linia) = nullptr;
+  void (*demanar)() = nullptr;
+  // signe +1 when a line comes into being, -1 when it goes away.
+  Apunt_Estoc (*estoc)(const Capcalera_Oberta& cap, const std::string& article, double signe, double unitats) = nullptr;
+  // The columns that only this kind has, into the row that is about to be written.
+  void (*columnes)(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& fila) = nullptr;
+  void (*despres_d_afegir)(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Document_Obert& obert) = nullptr;
+
+  // A line deleted. The first one may refuse it, after a box; `columna_lligada` is the role word of a column: a line
+  // where it is not 0 stays, in silence.
+  bool (*es_pot_esborrar)(const Capcalera_Oberta& cap) = nullptr;
+  const char* columna_lligada = nullptr;
+  void (*despres_d_esborrar)(const Capcalera_Oberta& cap, const Recordset& fila) = nullptr;
+  // When the total has been made again, before all of it is committed.
+  void (*linies_esborrades)(const Capcalera_Oberta& cap, Document_Obert& obert) = nullptr;
+
+  bool (*es_pot_moure)(const Valor& numero, const std::string& empresa, std::int16_t linia) = nullptr;
+};
+
+struct Tipus_Document {
+  std::string_view formulari;  // F_ALBARA
+  std::string_view llista;     // F_ALBARANSM
+  Taula_Document cap;
+  Taula_Document lin;
+  Taula_Document peu = {};                // empty name: no foot (transfers)
+  std::string_view lletra_bloqueig;       // of LOCKS
+  std::string_view lletra_pagament = {};  // of PAGAMENTS; empty: none
+  // Does the document of that letter hold payments: then it is not deleted, not even when it is empty.
+  bool (*te_pagaments)(const std::string& lletra, std::int64_t numero) = nullptr;
+  bool numero_es_text = false;         // purchase notes carry the supplier's own number
+  bool taxes_de_l_article = false;     // no boxes of tax in the head: lines take the rates of their articles
+  bool valorat_al_cost = false;        // the amounts of a line are those of its cost
+  std::string_view columnes_linies;    // role words of the lines grid, in its order, separated by blanks
+  bool peu_exigeix_capcalera = false;  // a foot total for a head that is missing is an error, not nothing
+  Valor Sessio::*numero_a_obrir;       // the document that its editor is to open
+  std::string Sessio::*crida;          // carries the tags ;NEW and ;EDIT of its list
+  Pregunta pregunta_esborrar;          // before its number, when a whole document is to go
+  Pregunta refus_esborrar = {};        // before its number, when the database keeps it; none: the error as it comes
+  const char* error_estoc = "Error al intentar actualizar movimientos, stock ...";
+  const Passos_Document* passos = nullptr;
+};
+// The steps of a kind; of one that has none, no steps.
+const Passos_Document& Passos_De(const Tipus_Document& tipus);
+
+// Another terminal deleted the document. "El document ja no existeix.", in the language of the session.
+class Document_Inexistent : public Error_Brollador {
+ public:
+  explicit Document_Inexistent(const Tipus_Document& tipus);
+};
+
+// The kinds of this program are told at start, by the folders that know them.
+void Registrar_Tipus(const Tipus_Document& tipus);
+const std::vector<const Tipus_Document*>& Tipus_Registrats();
+// The kind that a code of LOCKS stands for; null for any other code.
+const Tipus_Document* Tipus_De_Bloqueig(std::string_view lletra);
+
+// What may be typed as the number of a document, and what it becomes: a whole number from 1 to 2147483647; or, where
+// numbers are texts, any text that is not empty. Nothing for what is no number.
+std::optional<Valor> Numero_Escrit(const Tipus_Document& tipus, std::string_view text);
+// The same document: texts are compared as the database does, without case.
+bool Mateix_Numero(const Valor& un, const Valor& altre);
+// The number as a part of a file's name: no separator of folders, no other folder, nothing that a file may not hold.
+std::string Numero_Per_A_Fitxer(const Valor& numero);
+// A number of a document for a statement: bare, or between quotes where it is text.
+std::string Numero_Document_SQL(const Tipus_Document& tipus, const Valor& numero);
+// " WHERE NUMALB_x = n AND EMPRESA_x = 'e'" on one of the kind's tables.
+std::string Condicio_Document(const Tipus_Document& tipus, const Taula_Document& taula, const Valor& numero,
+                              const std::string& empresa);
+
+// Creates the head (number, company, its name, today) and returns its number. Raises 1010 "Empresa" without a company,
+// the engine's error when another terminal took the number.
+Valor Crear_Capcalera(const Tipus_Document& tipus);
+Valor Seguent_Numero(const Tipus_Document& tipus, const std::string& empresa);
+// Raises 6 after line 32767.
+std::int16_t Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// Raises Document_Inexistent, after its box, when there is no such document.
+void Exigir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+bool Existeix_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+bool Hi_Ha_Descomptes(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// Asks, in the words of the kind, and deletes the whole paper, or tells why it stays.
+void Demanar_Esborrar_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// The whole paper: lines and foot go with the head, by the database. False when it was gone already.
+bool Esborrar_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// On closing: a paper without lines and without payments goes.
+enum class Buit { Es_Queda, Esborrat, Perdut };  // Perdut: it was gone already
+Buit Esborrar_Document_Buit(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// Exchanges a line with its neighbour, through the spare number 0. False when there is none on that side. Raises
+// 80040E38 when one of the two is there no more.
+bool Intercanviar_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
+                        std::int16_t linia, bool avall);
+
+// Statements of the editors: the head, the lines grid, the foot grid.
+std::string SQL_Capcalera(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+std::string SQL_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+std::string SQL_Peu(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);

@@ -1,40 +1,46 @@
-// The search form of a kind of document: criteria with their defaults, and the buttons that open its list. The controls
-// have the same names in every kind, but for the word of the kind in its number fields.
+// A search form: criteria with their defaults, and the buttons that open its list. Forms differ in the rows of their
+// criteria (documents/M_Consultes.h), which name the controls of the .ui file.
 #pragma once
 
 #include "core/formularis/Formulari.h"
 #include "documents/M_Consultes.h"
 
-class Camp_Numeric;
-class Combo_Codi;
-class QLineEdit;
-class QPushButton;
-class Selector_Data;
+class QWidget;
+
+struct Boto_De_Cerca {
+  const char* boto;        // B_Albarans
+  const char16_t* llista;  // the form that it opens
+  bool nomes_pendents = false;
+};
+
+struct Descripcio_Cerca {
+  const std::vector<Criteri>& criteris;
+  const char* primer_camp;  // where the focus stands when the form opens
+  std::vector<Boto_De_Cerca> botons;
+};
 
 class Cerca_Document : public Formulari {
   Q_OBJECT
  public:
-  using Formulari::Formulari;
+  explicit Cerca_Document(const Descripcio_Cerca& descripcio);
   void Carregar() override;
   void Activar() override;
-  Criteris_Cerca Criteris() const;
+  Valors_Cerca Valors() const;
 
  protected:
-  // Finds the controls of the .ui file: `paraula` is the kind's word (ALBARA), `llista` the form that the buttons open.
-  void Muntar(const QString& paraula, const QString& llista, QPushButton* tots, QPushButton* pendents);
+  // After setupUi: finds the controls and connects them.
+  void Muntar();
 
  private:
+  void Muntar_Camp(const Criteri& criteri);
+  QWidget* Camp(const Criteri& criteri, bool segon = false) const;
+  void Posar(const Criteri& criteri, const Valor_Criteri& valor);
+  Valor_Criteri Llegir(const Criteri& criteri) const;
   void Netejar();
-  void Obrir_Llista(bool nomes_pendents);
+  void Obrir_Llista(const Boto_De_Cerca& boto);
 
-  QString llista_;
-  Camp_Numeric* numero_entre_ = nullptr;
-  Camp_Numeric* numero_y_ = nullptr;
-  Selector_Data* data_entre_ = nullptr;
-  Selector_Data* data_y_ = nullptr;
-  Combo_Codi* client_ = nullptr;
-  Camp_Numeric* import_entre_ = nullptr;
-  Camp_Numeric* import_y_ = nullptr;
-  QLineEdit* article_ = nullptr;
-  QLineEdit* article_desc_ = nullptr;
+  const Descripcio_Cerca& descripcio_;
 };
+
+// What the search form of that name asks for; one that is not open is there all the same, as it comes.
+Valors_Cerca Valors_De(const char* formulari);

@@ -2,105 +2,100 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QLineEdit>
+#include <QHeaderView>
 #include <QPushButton>
+#include <QShortcut>
+#include <algorithm>
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
-#include "core/dades/Numeros.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Control_Interface.h"
+#include "documents/M_Linies_Document.h"
 #include "documents/M_Peu.h"
-#include "masters/M_Clients.h"
-#include "output/informe/Imprimir.h"
 #include "session/M_Locks.h"
 
 namespace {
 
-constexpr const char* mascara_import = "#,##0.00";
+constexpr int impressio_per_dialeg = 0;
 
-QString Qt_De(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-QString Text_De(const Valor& valor) {
-  return QString::fromStdString(valor.Text());
-}
-
-bool Marcat(const Valor& valor) {
-  return !valor.Es_Nul() && valor.Boolea();
-}
-Valor Text_O_Nul(const std::string& text) {
-  return text.empty() ? Valor() : Valor(text);
-}
-
-// A document's number as typed: whole, from 1 to what a long integer holds.
-std::optional<Valor> Numero_Escrit(const QString& text) {
-  const auto numero = Numero_De_Text(text.toStdString());
-  if (!numero || *numero < 1 || *numero > 2147483647 ||
-      *numero != static_cast<double>(static_cast<std::int64_t>(*numero))) {
-    return std::nullopt;
-  }
-  return Valor(static_cast<std::int64_t>(*numero));
+bool Te_Text(const QWidget* control) {
+  const auto* camp = qobject_cast<const QLineEdit*>(control);
+  return camp != nullptr && !camp->text().isEmpty();
 }
 
 }  // namespace
 
-Editor_Document::Editor_Document(const QString& nom, const Descripcio_Editor& descripcio)
-    : Formulari(nom), descripcio_(descripcio) {}
+Editor_Document::Editor_Document(const Descripcio_Editor& descripcio) : Formulari(QString()), descripcio_(descripcio) {}
 
 Editor_Document::~Editor_Document() = default;
 
 // ---- Opening ----------------------------------------------------------------------------------------------------
 
-template <class Control>
-Control* Editor_Document::Del_Cap(const char* paper) const {
-  return Control_De_Nom<Control>(QString::fromUtf8(paper) + u'_' + Qt_De(descripcio_.tipus.cap.sufix));
-}
-
-void Editor_Document::Trobar_Controls() {
-  camp_numero_ = Del_Cap<QLineEdit>("TXT_NUMALB");
-  data_ = Del_Cap<Selector_Data>("DT_DATA");
-  client_ = Del_Cap<QLineEdit>("TXT_CLIENT");
-  nom_client_ = Del_Cap<Combo_Codi>("CMB_CLIENT_DESC");
-  iva_ = Del_Cap<QCheckBox>("CHK_IVA");
-  re_ = Del_Cap<QCheckBox>("CHK_RE");
-  estat_ = Del_Cap<QCheckBox>("CHK_ESTAT");
-  pagament_ = Del_Cap<QCheckBox>("CHK_PAGAMENT");
-  observacions_ = Del_Cap<QLineEdit>("TXT_OBSR");
-  import_ = Del_Cap<QLineEdit>("TXT_IMPORT");
-  nova_ = Control_De_Nom<QGroupBox>(QStringLiteral("FR_NOVA"));
-  opcions_ = Control_De_Nom<Grup_Opcions>(QStringLiteral("OPT"));
-  graella_linies_ = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella_linies));
-  graella_peu_ = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella_peu));
+QPushButton* Editor_Document::Boto(const char* nom) const {
+  return qobject_cast<QPushButton*>(Cercar_Control(QString::fromUtf8(nom)));
 }
 
 void Editor_Document::Muntar() {
-  Trobar_Controls();
-  entrada_ = std::make_unique<Entrada_Linia>(nova_, Qt_De(descripcio_.tipus.lin.sufix),
-                                             Entrada_Linia::Editor{.iva = [this] { return iva_->isChecked(); },
-                                                                   .re = [this] { return re_->isChecked(); },
-                                                                   .desar = [this] { Desar_Linia(); }});
-  graella_linies_->Columnes(descripcio_.columnes_linies);
-  graella_peu_->Columnes(descripcio_.columnes_peu);
-  opcions_->Opcio(0);
-  Connectar();
+  cap_ = std::make_unique<Capcalera_Document>(*this, Tipus(), descripcio_.qui);
+  nova_ = Control_De_Nom<QGroupBox>(QStringLiteral("FR_NOVA"));
+  opcions_ = findChild<Grup_Opcions*>(QStringLiteral("OPT"));
+  graella_linies_ = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella_linies));
+  graella_linies_->Columnes(Columnes_De_Linies(Tipus(), descripcio_.columnes_linies));
+  graella_linies_->horizontalHeader()->setSectionsClickable(false);  // the order of lines is the document's
+  if (descripcio_.graella_peu != nullptr) {
+    graella_peu_ = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella_peu));
+    graella_peu_->Columnes(Columnes_De_Peu(Tipus()));
+  }
+  entrada_ = std::make_unique<Entrada_Linia>(
+      nova_, descripcio_.entrada,
+      Entrada_Linia::Editor{.cap = [this] { return cap_->Oberta(); }, .desar = [this] { return Desar_Linia(); }});
+  if (opcions_ != nullptr) opcions_->Opcio(0);
+  Connectar_Capcalera();
+  Connectar_Botons();
 }
 
-void Editor_Document::Connectar() {
-  En_Sortir(camp_numero_, [this] { Guardar_Event([this] { Deixar_Numero(); }); });
-  connect(data_, &Selector_Data::Canviada, this, [this] { Guardar_Event([this] { Desar_Capcalera(); }); });
-  connect(nom_client_, &Combo_Codi::Triat, this,
-          [this] { Guardar_Event([this] { Canviar_Client(); }, [this] { Cancellar_Edicions(); }); });
-  connect(estat_, &QCheckBox::clicked, this, [this] {
-    Guardar_Event([this] {
-      Aplicar_Estat();
-      Aplicar_Opcio();
-    });
+void Editor_Document::Connectar_Capcalera() {
+  const auto desar = [this] { Guardar_Event([this] { Desar_Capcalera(); }); };
+  En_Sortir(cap_->Camp_Numero(), [this] { Guardar_Event([this] { Deixar_Numero(); }); });
+  for (const char* nom : descripcio_.desen) {
+    QWidget* control = cap_->Control(QString::fromUtf8(nom));
+    if (auto* dia = qobject_cast<Selector_Data*>(control)) {
+      connect(dia, &Selector_Data::Canviada, this, desar);
+    } else if (auto* casella = qobject_cast<QCheckBox*>(control)) {
+      connect(casella, &QCheckBox::clicked, this, desar);
+    } else if (control != nullptr) {
+      En_Sortir(control, [this, control, desar] {
+        if (Te_Text(control)) desar();
+        Aplicar_Opcio();
+      });
+    }
+  }
+  if (cap_->Combo() != nullptr) {
+    connect(cap_->Combo(), &Combo_Codi::Triat, this,
+            [this] { Guardar_Event([this] { Canviar_Qui(); }, [this] { Cancellar_Edicions(); }); });
+  }
+  if (auto* estat = qobject_cast<QCheckBox*>(cap_->Control(QStringLiteral("CHK_ESTAT"))))
+    connect(estat, &QCheckBox::clicked, this, [this] { Guardar_Event([this] { Mostrar_Estat(); }); });
+  if (opcions_ != nullptr) connect(opcions_, &Grup_Opcions::Triada, this, [this] { Aplicar_Opcio(); });
+}
+
+// Ctrl, Shift and an arrow, wherever the focus is: the letters of the form are taken.
+void Editor_Document::Drecera(const char* nom, Qt::Key tecla) {
+  QPushButton* boto = Boto(nom);
+  if (boto == nullptr) return;
+  auto* drecera = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | tecla), this);
+  drecera->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(drecera, &QShortcut::activated, boto, [boto] {
+    if (boto->isEnabled() && Deixar_El_Camp_Pel_Boto(boto)) boto->click();
   });
-  connect(opcions_, &Grup_Opcions::Triada, this, [this] { Aplicar_Opcio(); });
+}
+
+void Editor_Document::Connectar_Botons() {
   const auto boto = [this](const char* nom, Dibuix dibuix, const std::function<void()>& rutina) {
-    auto* control = Control_De_Nom<QPushButton>(QString::fromLatin1(nom));
+    QPushButton* control = Boto(nom);
+    if (control == nullptr) return;
     Dibuixar(control, dibuix);
     connect(control, &QPushButton::clicked, this,
             [this, rutina] { Guardar_Event(rutina, [this] { Cancellar_Edicions(); }); });
@@ -108,60 +103,51 @@ void Editor_Document::Connectar() {
   boto("B_EsborrarLinia", Dibuix::Esborrar, [this] { Esborrar_Linia_Actual(); });
   boto("B_AMUNT", Dibuix::Amunt, [this] { Desplacar_Linia(false); });
   boto("B_AVALL", Dibuix::Avall, [this] { Desplacar_Linia(true); });
+  Drecera("B_AMUNT", Qt::Key_Up);
+  Drecera("B_AVALL", Qt::Key_Down);
   boto("B_VALORAR", Dibuix::Calcular, [this] { Valorar(); });
   boto("B_PRINT_VALORAT", Dibuix::Imprimir, [this] { Imprimir(";VALORAT"); });
   boto("B_PRINT_NO_VALORAT", Dibuix::Imprimir, [this] { Imprimir(";NO_VALORAT"); });
+  for (const auto& [nom, formulari] : descripcio_.botons)
+    Boto_De_Pantalla(QString::fromUtf16(nom), QString::fromUtf16(formulari));
   auto* sortir = Control_De_Nom<QPushButton>(QStringLiteral("B_Exit"));
   Dibuixar(sortir, Dibuix::Sortir);
   connect(sortir, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
 }
 
+// All that the form shows is read together.
 void Editor_Document::Carregar() {
-  numero_ = Numero_A_Obrir();
-  nom_client_->Omplir(SQL_Combo_Clients(), sessio.Connexio_Comuna, "NIF_CLI", "RAO_SOCIAL_CLI");
-  cap_.Unique_Table(std::string(descripcio_.tipus.cap.nom));
-  cap_.Open(SQL_Capcalera(descripcio_.tipus, numero_, sessio.Empresa_Actual), sessio.Connexio_Comuna,
-            Bloqueig::Pessimista);
+  Connexio& connexio = sessio.Connexio_Comuna;
+  const Valor& numero = sessio.*Tipus().numero_a_obrir;
+  Transaccio lectures(connexio);
+  connexio.Demanar(SQL_Linies(Tipus(), numero, sessio.Empresa_Actual), Bloqueig::Optimista);
+  if (graella_peu_ != nullptr) connexio.Demanar(SQL_Peu(Tipus(), numero, sessio.Empresa_Actual));
+  if (descripcio_.qui != nullptr) {
+    const Noms_Amb_Codi& noms = descripcio_.qui->noms;
+    cap_->Combo()->Omplir(noms.sentencia(), connexio, noms.codi, noms.nom);
+  }
+  cap_->Obrir(numero);
   Obrir_Recordsets();
-  Mostrar_Capcalera();
+  lectures.Confirmar();
   nova_->hide();  // until what the option asks for is there
   entrada_->Netejar();
   Aplicar_Opcio();
 }
 
 void Editor_Document::Obrir_Recordsets() {
-  linies_.Open(SQL_Linies(descripcio_.tipus, numero_, sessio.Empresa_Actual), sessio.Connexio_Comuna,
-               Bloqueig::Optimista);
-  peu_.Open(SQL_Peu(descripcio_.tipus, numero_, sessio.Empresa_Actual), sessio.Connexio_Comuna);
+  linies_.Open(SQL_Linies(Tipus(), Numero(), sessio.Empresa_Actual), sessio.Connexio_Comuna, Bloqueig::Optimista);
   graella_linies_->Lligar(&linies_);
+  if (graella_peu_ == nullptr) return;
+  peu_.Open(SQL_Peu(Tipus(), Numero(), sessio.Empresa_Actual), sessio.Connexio_Comuna);
   graella_peu_->Lligar(&peu_);
 }
 
-void Editor_Document::Mostrar_Capcalera() {
-  const Taula_Document& taula = descripcio_.tipus.cap;
-  const auto valor = [&](const char* paper) { return cap_[taula.Columna(paper)]; };
-  Del_Cap<QLineEdit>("TXT_EMPRESA")->setText(Text_De(valor("EMPRESA")));
-  Del_Cap<QLineEdit>("TXT_EMP_DESC")->setText(Text_De(valor("EMP_DESC")));
-  Del_Cap<QLineEdit>("TXT_EMP_DESC")->setCursorPosition(0);
-  camp_numero_->setText(Text_De(valor("NUMALB")));
-  data_->Data(valor("DATA").Es_Nul() ? std::nullopt : std::optional(valor("DATA").Data()));
-  client_->setText(Text_De(valor("CLIENT")));
-  nom_client_->Posar(valor("CLIENT").Text(), valor("CLIENT_DESC").Text());
-  iva_->setChecked(Marcat(valor("IVA")));
-  re_->setChecked(Marcat(valor("RE")));
-  observacions_->setText(Text_De(valor("OBSR")));
-  Posar_Import(Nul_A_Defecte(valor("IMPORT")).Doble());
-  estat_->setChecked(Marcat(valor("ESTAT")));
-  pagament_->setChecked(Marcat(valor("PAGAMENT")));
-  Mostrar_Camps_Propis();
-}
-
 void Editor_Document::Activar() {
-  const QString crida = QString::fromStdString(sessio.Crida_Mestre);
+  const QString crida = QString::fromStdString(sessio.*Tipus().crida);
   const bool pot_entrar = nova_->isEnabled() && nova_->isVisible();
-  auto* sortir = Control_De_Nom<QPushButton>(QStringLiteral("B_Exit"));
+  auto* sortir = Boto("B_Exit");
   if (crida.endsWith(u"NEW")) {
-    Posar_Focus(camp_numero_);
+    Posar_Focus(cap_->Camp_Numero());
   } else if (crida == u"EDIT_COMANDA") {
     if (pot_entrar)
       entrada_->Continuar_Comanda();
@@ -170,104 +156,103 @@ void Editor_Document::Activar() {
   } else if (crida.endsWith(u"EDIT")) {
     Posar_Focus(pot_entrar ? static_cast<QWidget*>(entrada_->Article()) : sortir);
   }
-  if (client_->text().isEmpty()) nova_->hide();
+  if (!Pot_Entrar()) nova_->hide();
   Aplicar_Estat();
 }
 
 // ---- What may be touched ----------------------------------------------------------------------------------------
 
+bool Editor_Document::Tancat() const {
+  const auto tancat = Passos_De(Tipus()).tancat;
+  return tancat == nullptr ? cap_->Esta_Marcada("ESTAT") : tancat(Numero(), sessio.Empresa_Actual);
+}
+
+bool Editor_Document::Bloquejat() const {
+  if (bloquejat_) return *bloquejat_;
+  const auto bloquejat = Passos_De(Tipus()).bloquejat;
+  return bloquejat != nullptr && bloquejat(Numero(), sessio.Empresa_Actual);
+}
+
+// The head holds what a line needs: whom it is for, where from and where to.
+bool Editor_Document::Pot_Entrar() const {
+  return std::ranges::all_of(descripcio_.demanats,
+                             [this](const char* nom) { return Te_Text(cap_->Control(QString::fromUtf8(nom))); });
+}
+
 // What the rights of the session give, less what the state of the document takes away.
 void Editor_Document::Aplicar_Estat() {
   Formulari::Aplicar_Drets();
-  const bool consulta = Dret() == "C";
-  const bool te_linies = Comptar_Linies(descripcio_.tipus, numero_, sessio.Empresa_Actual) > 0;
+  if (!linies_.State()) return;
+  const bool te_linies = linies_.RecordCount() > 0;
   const bool cap_obert = !te_linies && Dret() == "M";
   const auto treure = [](QWidget* control, bool obert) {
-    if (!obert) control->setEnabled(false);
+    if (control != nullptr && !obert) control->setEnabled(false);
   };
-  for (QWidget* control : std::initializer_list<QWidget*>{camp_numero_, nom_client_, iva_, re_}) {
-    treure(control, cap_obert);
+  for (const char* nom : descripcio_.fixats) treure(cap_->Control(QString::fromUtf8(nom)), cap_obert);
+  if (descripcio_.qui != nullptr) {
+    treure(Boto(descripcio_.qui->boto), te_linies ? !Bloquejat() : cap_obert);
   }
-  treure(data_, cap_obert || (te_linies && !descripcio_.data_fixa_amb_linies));
-  const auto boto = [this](const char* nom) { return Control_De_Nom<QPushButton>(QString::fromLatin1(nom)); };
-  treure(boto("B_CLIENT"), te_linies ? !Bloquejat() : cap_obert);
-  const bool tancat = estat_->isChecked();
-  for (const char* nom : {"B_AMUNT", "B_AVALL"}) boto(nom)->setEnabled(!tancat && !consulta);
+  const bool tancat = Tancat();
+  for (const char* nom : {"B_AMUNT", "B_AVALL"}) {
+    if (QPushButton* boto = Boto(nom)) boto->setEnabled(!tancat && Dret() != "C");
+  }
   if (tancat && descripcio_.amaga_entrada) nova_->hide();
   if (!descripcio_.amaga_entrada) nova_->setEnabled(!tancat);
 }
 
-// The first option is for lines, the second one shows the foot. No line can be typed before there is a customer.
+// The first option is for lines, the second one shows the foot.
 void Editor_Document::Aplicar_Opcio() {
-  const bool totals = opcions_->Opcio() == 1;
-  graella_peu_->setVisible(totals);
-  if (totals || (estat_->isChecked() && descripcio_.amaga_entrada)) return nova_->hide();
-  if (Dret() == "M" && !client_->text().isEmpty()) nova_->show();
+  const bool totals = opcions_ != nullptr && opcions_->Opcio() == 1;
+  if (graella_peu_ != nullptr) graella_peu_->setVisible(totals);
+  if (totals || !Pot_Entrar() || (descripcio_.amaga_entrada && Tancat())) return nova_->hide();
+  if (Dret() == "M") nova_->show();
+}
+
+void Editor_Document::Mostrar_Estat() {
+  Aplicar_Estat();
+  Aplicar_Opcio();
 }
 
 // ---- The head ---------------------------------------------------------------------------------------------------
 
-Capcalera_Oberta Editor_Document::Capcalera() const {
-  return {.numero = numero_, .empresa = sessio.Empresa_Actual, .iva = iva_->isChecked(), .re = re_->isChecked()};
-}
-
 void Editor_Document::Desar_Capcalera() {
-  const Taula_Document& taula = descripcio_.tipus.cap;
-  const auto posar = [&](const char* paper, const Valor& valor) { cap_.Set(taula.Columna(paper), valor); };
-  const Valor escrit = Numero_Escrit(camp_numero_->text()).value_or(numero_);
-  const bool altre_numero = !(escrit == numero_);
-  if (altre_numero) {
-    posar("NUMALB", escrit);
-    posar("EMPRESA", sessio.Empresa_Actual);
-  }
-  posar("EMP_DESC", Text_O_Nul(Del_Cap<QLineEdit>("TXT_EMP_DESC")->text().toStdString()));
-  const auto dia = data_->Data();
-  posar("DATA", dia ? Valor(*dia) : Valor());
-  posar("CLIENT", Text_O_Nul(client_->text().toStdString()));
-  posar("CLIENT_DESC", client_->text().isEmpty() ? Valor() : Valor(nom_client_->Nom()));
-  posar("IVA", iva_->isChecked());
-  posar("RE", re_->isChecked());
-  posar("OBSR", observacions_->text().toStdString());
-  posar("IMPORT", Numero_De_Text(import_->text().toStdString()).value_or(0));
-  posar("ESTAT", estat_->isChecked());
-  Desar_Camps_Propis();
-  posar("PAGAMENT", pagament_->isChecked());
-  cap_.Update();
-  if (altre_numero) {
-    numero_ = escrit;
-    Obrir_Recordsets();
-  }
+  const Valor abans = Numero();
+  cap_->Desar(Numero_Escrit(Tipus(), cap_->Camp_Numero()->text().toStdString()).value_or(abans));
+  if (!(Numero() == abans)) Obrir_Recordsets();
   Aplicar_Drets();
 }
 
 // True when the number in the field is the document's, or has become it. One that is taken gives way to the old one.
 bool Editor_Document::Acceptar_Numero() {
-  const auto escrit = Numero_Escrit(camp_numero_->text());
-  if (!escrit) return false;
-  if (*escrit == numero_) return true;
-  if (Existeix_Document(descripcio_.tipus, *escrit, sessio.Empresa_Actual)) {
-    camp_numero_->setText(Text_De(numero_));
+  QLineEdit* camp = cap_->Camp_Numero();
+  const auto escrit = Numero_Escrit(Tipus(), camp->text().toStdString());
+  const auto mostrar = [&] { camp->setText(QString::fromStdString(Numero().Text())); };
+  if (!escrit && camp->text().toStdString() != Numero().Text()) return false;
+  const bool es_el_mateix = !escrit || Mateix_Numero(*escrit, Numero());
+  if (!es_el_mateix && Existeix_Document(Tipus(), *escrit, sessio.Empresa_Actual)) {
+    mostrar();
     return false;
   }
   try {
-    Canviar_Numero(*escrit);
+    if (!es_el_mateix) Canviar_Numero(*escrit);
+    mostrar();
     return true;
   } catch (const Error_Brollador&) {
-    cap_.CancelUpdate();
-    camp_numero_->setText(Text_De(numero_));
-    Retenir_Focus(camp_numero_);
+    cap_->Cancellar();
+    mostrar();
+    Retenir_Focus(camp);
     throw;
   }
 }
 
 void Editor_Document::Deixar_Numero() {
-  if (!Acceptar_Numero()) Retenir_Focus(camp_numero_);
+  if (!Acceptar_Numero()) Retenir_Focus(cap_->Camp_Numero());
 }
 
 // The lock of the new number first: when it is refused the document stays locked under its own.
 void Editor_Document::Canviar_Numero(const Valor& nou) {
-  const std::string lletra(descripcio_.tipus.lletra_bloqueig);
-  const Valor vell = numero_;
+  const std::string lletra(Tipus().lletra_bloqueig);
+  const Valor vell = Numero();
   Bloquejar_Per_Tipus(lletra, nou.Text());
   try {
     Desar_Capcalera();
@@ -278,64 +263,64 @@ void Editor_Document::Canviar_Numero(const Valor& nou) {
   Desbloquejar_Document(lletra, sessio.Empresa_Actual, vell.Text());
 }
 
-void Editor_Document::Canviar_Client() {
-  client_->setText(QString::fromStdString(nom_client_->Codi()));
-  iva_->setChecked(Client_Te_IVA(nom_client_->Codi()));
-  re_->setChecked(Client_Te_RE(nom_client_->Codi()));
+void Editor_Document::Canviar_Qui() {
+  cap_->Canviar_Qui();
   Desar_Capcalera();
-  Recalcular_Linies(Capcalera());
-  Requerir_Linies();
-  Refrescar_Peu();
+  if (Recalcular_Linies(Tipus(), cap_->Oberta(), *this)) {
+    Requerir_Linies();
+    Refrescar_Peu();
+  }
   Aplicar_Estat();
   Aplicar_Opcio();
 }
 
-bool Editor_Document::Re_Marcat() const {
-  return re_->isChecked();
-}
-void Editor_Document::Posar_Estat(bool estat) {
-  estat_->setChecked(estat);
-}
-void Editor_Document::Posar_Pagament(bool pagament) {
-  pagament_->setChecked(pagament);
-}
-void Editor_Document::Posar_Import(double euros) {
-  import_->setText(QString::fromStdString(Format_Numero(euros, mascara_import)));
-}
 void Editor_Document::Refrescar_Peu() {
+  if (graella_peu_ == nullptr) return;
   peu_.Requery();
   graella_peu_->Refrescar();
 }
 
 // ---- Lines ------------------------------------------------------------------------------------------------------
 
-Valor Editor_Document::Camp_De_Linia(const char* paper) const {
-  return graella_linies_->Valor_Actual(descripcio_.tipus.lin.Columna(paper).c_str());
-}
-
-// A line, its served units, its foot and its stock stand or fall together.
-void Editor_Document::Desar_Linia() {
+// A line, what it is tied to, its foot and its stock stand or fall together. False when the line may well be saved as
+// it was typed, once the terminal that holds the database lets it go.
+bool Editor_Document::Desar_Linia() {
+  bool passatger = false;
   Guardar_Event(
-      [this] {
+      [&] {
         Bloquejar_Entrada();
-        Transaccio transaccio;
-        entrada_->Refer_PVP();
-        Afegir_Linia(Capcalera(), entrada_->Linia());
-        transaccio.Confirmar();
+        try {
+          En_Transaccio(
+              sessio.Connexio_Comuna,
+              [this] {
+                entrada_->Refer_PVP();
+                Afegir_Linia(Tipus(), cap_->Oberta(), entrada_->Linia(), linies_, *this);
+                bloquejat_ = Bloquejat();
+              },
+              [this] { linies_.Requery(); });
+        } catch (const Error_Brollador& error) {
+          passatger = error.Es_Passatger();
+          throw;
+        }
         graella_linies_->Refrescar();
         Aplicar_Estat();
+        bloquejat_.reset();
         Alliberar_Entrada();
       },
-      [this] { Cancellar_Edicions(); });
+      [this] {
+        bloquejat_.reset();
+        Cancellar_Edicions();
+      });
+  return !passatger;
 }
 
 // After a failure the screen shows what the database holds.
 void Editor_Document::Cancellar_Edicions() {
   linies_.CancelUpdate();
-  cap_.CancelUpdate();
+  cap_->Cancellar();
   Requerir_Linies();
   Refrescar_Peu();
-  Posar_Import(Total_Peu(descripcio_.tipus, numero_, sessio.Empresa_Actual));
+  Posar_Import(Total_Document(Tipus(), Numero(), sessio.Empresa_Actual));
   Aplicar_Estat();
 }
 
@@ -347,50 +332,93 @@ void Editor_Document::Requerir_Linies() {
 }
 
 void Editor_Document::Esborrar_Linia_Actual() {
-  if (graella_linies_->Fila_Actual() < 0 || estat_->isChecked()) return;
-  Transaccio transaccio;
-  if (!Esborrar_Linia()) return;
+  if (graella_linies_->Fila_Actual() < 0 || Tancat()) return;
+  const auto camp = [this](const char* paper) {
+    return graella_linies_->Valor_Actual(Tipus().lin.Columna(paper).c_str());
+  };
+  const Linia_A_Esborrar linia{.numero = static_cast<std::int16_t>(camp("LIN").Enter()),
+                               .article = camp("ARTICLE").Text(),
+                               .unitats = Nul_A_Defecte(camp("UNITATS")).Doble()};
+  const Capcalera_Oberta cap = cap_->Oberta();
+  const auto linies_esborrades = Passos_De(Tipus()).linies_esborrades;
+  Transaccio transaccio(sessio.Connexio_Comuna);
+  if (!Esborrar_Linia(Tipus(), cap, linia)) return;
   Requerir_Linies();
-  Buidar_Peu(descripcio_.tipus, numero_, sessio.Empresa_Actual);
-  Calcular_Peu(descripcio_.tipus, numero_, sessio.Empresa_Actual, *this);
+  if (graella_peu_ != nullptr) Buidar_Peu(Tipus(), Numero(), sessio.Empresa_Actual);
+  Calcular_Totals(Tipus(), Numero(), sessio.Empresa_Actual, *this);
+  if (linies_esborrades != nullptr) linies_esborrades(cap, *this);
   transaccio.Confirmar();
   Refrescar_Peu();
-  // Propagar_Flag_Pagaments with the kind's letter goes here.
   Aplicar_Estat();
 }
 
 void Editor_Document::Desplacar_Linia(bool avall) {
   const std::int64_t fila = graella_linies_->Fila_Actual();
   if (fila < 0) return;
-  if (!Moure_Linia(static_cast<std::int16_t>(Camp_De_Linia("LIN").Enter()), avall)) return;
+  const Valor linia = graella_linies_->Valor_Actual(Tipus().lin.Columna("LIN").c_str());
+  if (!Moure_Linia(Tipus(), Numero(), sessio.Empresa_Actual, static_cast<std::int16_t>(linia.Enter()), avall)) return;
   linies_.Requery();
   linies_.AbsolutePosition(fila + 1 + (avall ? 1 : -1));
   graella_linies_->Refrescar();
 }
 
 void Editor_Document::Valorar() {
-  Transaccio transaccio;
-  Calcular_Peu(descripcio_.tipus, numero_, sessio.Empresa_Actual, *this);
+  Transaccio transaccio(sessio.Connexio_Comuna);
+  Calcular_Totals(Tipus(), Numero(), sessio.Empresa_Actual, *this);
   transaccio.Confirmar();
 }
 
 void Editor_Document::Imprimir(const char* proposit) {
   if (Dret() != "C") Desar_Capcalera();
-  sessio.Crida_Document = std::string(descripcio_.tipus.formulari) + proposit;
-  Imprimir_Document(descripcio_.tipus, numero_, sessio.Empresa_Actual, 0);
+  sessio.Crida_Document = std::string(Tipus().formulari) + proposit;
+  descripcio_.imprimir(Tipus(), Numero(), sessio.Empresa_Actual, impressio_per_dialeg);
 }
 
 // ---- Closing ----------------------------------------------------------------------------------------------------
 
-// Each step runs whatever became of the one before: a document that cannot be saved is released all the same.
+// Each step runs whatever became of the one before: a document that cannot be saved is released all the same, and one
+// that is gone is told of once.
 void Editor_Document::Descarregar() {
   if (Dret() != "C") {
+    bool desada = false;
     Guardar_Event([this] { Acceptar_Numero(); });  // typed, and the field never left
-    Guardar_Event([this] { Desar_Capcalera(); }, [this] { cap_.CancelUpdate(); });
-    Guardar_Event([this] { Esborrar_Buit(); });
+    Guardar_Event([&] {
+      Desar_Capcalera();
+      desada = true;
+    });
+    Guardar_Event([&] {
+      const bool hi_es = Esborrar_Document_Buit(Tipus(), Numero(), sessio.Empresa_Actual) != Buit::Perdut;
+      if (desada && !hi_es) Llancar_Error(errors::concurrencia, std::string(Tipus().formulari));
+    });
   }
-  Alliberar_Per_Tipus(std::string(descripcio_.tipus.lletra_bloqueig), numero_.Text());
+  Alliberar_Per_Tipus(std::string(Tipus().lletra_bloqueig), Numero().Text());
   graella_linies_->Lligar(nullptr);
-  graella_peu_->Lligar(nullptr);
-  for (Recordset* rs : {&cap_, &linies_, &peu_}) rs->Close();
+  if (graella_peu_ != nullptr) graella_peu_->Lligar(nullptr);
+  cap_->Tancar();
+  for (Recordset* rs : {&linies_, &peu_}) rs->Close();
+  if (descripcio_.qui != nullptr && descripcio_.qui->document_tancat != nullptr)
+    Guardar_Event([this] { descripcio_.qui->document_tancat(); });
+}
+
+// ---- What the status line and the tooltips tell -----------------------------------------------------------------
+
+QString Editor_Document::Que_Mostra() const {
+  return windowTitle() + u' ' + QString::fromStdString(Numero().Text());
+}
+
+bool Editor_Document::Tot_Desat() const {
+  return entrada_->Article()->text().isEmpty() && !cap_->Te_Canvis();
+}
+
+QString Editor_Document::Per_Que_No(const QWidget& /*control*/) const {
+  const auto paraules = [](const char* catala, const char* castella, const char* angles) {
+    return QString::fromStdString(Missatge(catala, castella, angles));
+  };
+  if (Tancat()) {
+    return paraules("El document està tancat", "El documento está cerrado", "The document is closed");
+  }
+  if (linies_.State() && linies_.RecordCount() > 0) {
+    return paraules("El document ja té línies", "El documento ya tiene líneas", "The document has lines already");
+  }
+  return {};
 }

@@ -1,38 +1,50 @@
-// The editor of a document: head, lines, entry frame, foot, closing. The six kinds are descriptions of it plus the
-// steps that are theirs. Controls are found by the names that the kind's suffixes give them (TXT_NUMALB_AC,
-// CHK_IVA_AC...).
+// The editor of a document: head, lines, entry frame, foot, closing. The six kinds are descriptions of it. Controls are
+// found by the names that the kind's suffixes give them (TXT_NUMALB_AC, CHK_IVA_AC...); one that the form has not is
+// something that the kind has not: an option set, a foot, buttons that move lines, a box of its state.
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "core/controls/Graella.h"
 #include "core/formularis/Formulari.h"
+#include "documents/F_Capcalera_Document.h"
+#include "documents/F_Columnes_Document.h"
 #include "documents/F_Entrada_Linia.h"
 
-class Combo_Codi;
 class Grup_Opcions;
-class QCheckBox;
 class QGroupBox;
-class QLineEdit;
 class QPushButton;
-class Selector_Data;
+
+// A button that opens a screen of this kind alone.
+struct Boto_D_Editor {
+  const char16_t* boto;
+  const char16_t* formulari;
+};
 
 struct Descripcio_Editor {
   const Tipus_Document& tipus;
-  const char* graella_linies;  // G_ALBLIN
-  const char* graella_peu;     // G_ALBPEU
-  std::vector<Columna_Graella> columnes_linies;
-  std::vector<Columna_Graella> columnes_peu;
-  std::string Sessio::*dret;  // P_Albarans
-  bool amaga_entrada;         // a closed document hides the entry frame; else it is disabled
-  bool data_fixa_amb_linies;  // the date cannot change once there are lines
+  std::string Sessio::*dret;                         // P_Albarans
+  const Per_A_Qui* qui = nullptr;                    // a document for nobody has none
+  const char* graella_linies;                        // G_ALBLIN
+  const char* graella_peu = nullptr;                 // G_ALBPEU
+  std::vector<Columna_Propia> columnes_linies = {};  // what differs from the columns of every kind
+  Descripcio_Entrada entrada;
+  // Controls of the head, without their suffix; buttons as they are.
+  std::vector<const char*> demanats;             // no line can be typed before these hold something: TXT_CLIENT
+  std::vector<const char*> fixats;               // lines fix these
+  std::vector<const char*> desen = {"DT_DATA"};  // a change of these saves the head
+  bool amaga_entrada = true;                     // a closed document hides the entry frame; else it is disabled
+  // Prints it: sessio.Crida_Document tells whether with prices.
+  void (*imprimir)(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) = nullptr;
+  std::vector<Boto_D_Editor> botons = {};
 };
 
 class Editor_Document : public Formulari, public Document_Obert {
   Q_OBJECT
  public:
-  Editor_Document(const QString& nom, const Descripcio_Editor& descripcio);
+  explicit Editor_Document(const Descripcio_Editor& descripcio);
   ~Editor_Document() override;
 
   void Carregar() override;
@@ -40,53 +52,44 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Descarregar() override;
   void Aplicar_Drets() override { Aplicar_Estat(); }
   Document_Obert* Document() override { return this; }
+  bool Vol_Tot_El_Lloc() const override { return true; }
+  QString Que_Mostra() const override;
+  bool Tot_Desat() const override;
+  QString Per_Que_No(const QWidget& control) const override;
 
-  Valor Numero_Document() const override { return numero_; }
-  bool Re_Marcat() const override;
-  void Posar_Import(double euros) override;
-  void Posar_Estat(bool estat) override;
-  void Posar_Pagament(bool pagament) override;
+  Valor Numero_Document() const override { return cap_->Numero(); }
+  bool Re_Marcat() const override { return cap_->Esta_Marcada("RE"); }
+  void Posar_Import(double euros) override { cap_->Posar_Import(euros); }
+  void Posar_Estat(bool estat) override { cap_->Marcar("ESTAT", estat); }
+  void Posar_Pagament(bool pagament) override { cap_->Marcar("PAGAMENT", pagament); }
   void Desar_Capcalera() override;
   void Refrescar_Peu() override;
 
  protected:
-  // The steps of a kind.
-  virtual Valor Numero_A_Obrir() const = 0;
-  virtual bool Bloquejat() const = 0;  // its customer cannot change any more
-  virtual void Afegir_Linia(const Capcalera_Oberta& cap, const Linia_Entrada& linia) = 0;
-  virtual bool Esborrar_Linia() = 0;  // the current one; false when the user said no
-  virtual void Recalcular_Linies(const Capcalera_Oberta& cap) = 0;
-  virtual bool Moure_Linia(std::int16_t linia, bool avall) = 0;
-  virtual void Esborrar_Buit() = 0;
-  virtual void Desar_Camps_Propis() {}  // columns of the head that only this kind has
-  virtual void Mostrar_Camps_Propis() {}
-
   // After setupUi: finds the controls and connects them.
   void Muntar();
-  const Valor& Numero() const { return numero_; }
-  Valor Camp_De_Linia(const char* paper) const;  // of the current line
-
-  Recordset cap_;
-  Recordset linies_;
-  Recordset peu_;
 
  private:
-  template <class Control>
-  Control* Del_Cap(const char* paper) const;
-  Capcalera_Oberta Capcalera() const;
+  const Tipus_Document& Tipus() const { return descripcio_.tipus; }
+  const Valor& Numero() const { return cap_->Numero(); }
   const std::string& Dret() const { return sessio.*descripcio_.dret; }
+  QPushButton* Boto(const char* nom) const;
 
-  void Trobar_Controls();
-  void Connectar();
+  void Connectar_Capcalera();
+  void Connectar_Botons();
+  void Drecera(const char* boto, Qt::Key tecla);
   void Obrir_Recordsets();
-  void Mostrar_Capcalera();
+  bool Tancat() const;
+  bool Bloquejat() const;
+  bool Pot_Entrar() const;
   void Aplicar_Estat();
   void Aplicar_Opcio();
+  void Mostrar_Estat();
   void Deixar_Numero();
   bool Acceptar_Numero();
   void Canviar_Numero(const Valor& nou);
-  void Canviar_Client();
-  void Desar_Linia();
+  void Canviar_Qui();
+  bool Desar_Linia();
   void Cancellar_Edicions();
   void Esborrar_Linia_Actual();
   void Desplacar_Linia(bool avall);
@@ -94,21 +97,14 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Imprimir(const char* proposit);
   void Requerir_Linies();
 
-  const Descripcio_Editor descripcio_;
-  Valor numero_;  // remembered: the one that the database has
+  const Descripcio_Editor& descripcio_;
+  std::unique_ptr<Capcalera_Document> cap_;
+  std::optional<bool> bloquejat_;  // as it was read with the line that has just been saved
+  Recordset linies_;
+  Recordset peu_;
   std::unique_ptr<Entrada_Linia> entrada_;
   Graella* graella_linies_ = nullptr;
   Graella* graella_peu_ = nullptr;
   QGroupBox* nova_ = nullptr;
   Grup_Opcions* opcions_ = nullptr;
-  QLineEdit* camp_numero_ = nullptr;
-  Selector_Data* data_ = nullptr;
-  QLineEdit* client_ = nullptr;
-  Combo_Codi* nom_client_ = nullptr;
-  QCheckBox* iva_ = nullptr;
-  QCheckBox* re_ = nullptr;
-  QCheckBox* estat_ = nullptr;
-  QCheckBox* pagament_ = nullptr;
-  QLineEdit* observacions_ = nullptr;
-  QLineEdit* import_ = nullptr;
 };

@@ -1,29 +1,30 @@
 // The entry frame of a document editor, FR_NOVA: the fields of the line in progress, and what happens when each is
-// left. The arithmetic is Calcular_Linia's; the line reaches the database when the quantity is left, through the
-// editor.
+// left. The line reaches the database when the quantity is left, through the editor. Kinds differ in the suffix of the
+// fields and in the masks of the prices.
 #pragma once
 
 #include <QObject>
 #include <functional>
 
-#include "documents/Documents.h"
-#include "documents/M_Linies.h"
+#include "documents/F_Preus_Linia.h"
 
-class Camp_Numeric;
 class QGroupBox;
 class QLineEdit;
+
+struct Descripcio_Entrada {
+  const char* sufix;  // AL; a transfer's fields have that of notes
+  const std::vector<Camp_De_Preu>& preus = preus_de_venda;
+};
 
 class Entrada_Linia : public QObject {
   Q_OBJECT
  public:
   // What the frame has to know of the head and may ask of its editor.
   struct Editor {
-    std::function<bool()> iva;    // CHK_IVA_*
-    std::function<bool()> re;     // CHK_RE_*
-    std::function<void()> desar;  // writes the line
+    std::function<Capcalera_Oberta()> cap;
+    std::function<bool()> desar;  // writes the line; false: it can be tried again as it is
   };
-  // Finds the fields in the frame by the suffix of the kind's lines (AL).
-  Entrada_Linia(QGroupBox* marc, const QString& sufix, Editor editor);
+  Entrada_Linia(QGroupBox* marc, const Descripcio_Entrada& descripcio, Editor editor);
 
   Linia_Entrada Linia() const;
   void Netejar();
@@ -37,26 +38,24 @@ class Entrada_Linia : public QObject {
   bool eventFilter(QObject* objecte, QEvent* event) override;
 
  private:
-  enum Camp { Cost, Preu, Pvp, Marge, Descompte, quants_camps };
   template <class Control>
   Control* Buscar(const char* nom) const;
+  void Buscar_Altres(const Descripcio_Entrada& descripcio);
   void Deixar_Article();
-  void Deixar_Preu(Camp camp);
   void Deixar_Unitats();
-  void Recalcular(Camp camp);
-  void Buscar_Taxes();
+  Taxes_Linia Buscar_Taxes();
 
   QGroupBox* marc_;
   QString sufix_;
   Editor editor_;
+  Preus_Linia preus_;
   QLineEdit* article_;
   QLineEdit* descripcio_;
   QLineEdit* iva_article_;
-  Camp_Numeric* preus_[quants_camps];
   Camp_Numeric* unitats_;
   Camp_Numeric* dte_article_;
   QLineEdit* comanda_;  // only where lines serve orders
   QLineEdit* comanda_lin_;
-  Taxes_Linia taxes_;    // the last ones looked up
-  double recordat_ = 0;  // of the price field that was entered last
+  std::map<std::string, QLineEdit*> altres_;
+  Taxes_Linia taxes_;  // the last ones looked up
 };

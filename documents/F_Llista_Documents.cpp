@@ -1,60 +1,70 @@
 #include "documents/F_Llista_Documents.h"
 
-#include "core/M_Funcions_Comuns.h"
-#include "core/formularis/Control_Interface.h"
-#include "session/M_Locks.h"
+#include <QPushButton>
 
-namespace {
+#include "core/formularis/Aparenca.h"
+#include "documents/F_Cerca_Document.h"
+#include "documents/F_Obrir_Document.h"
 
-// A document that could not be opened: its number in the system's words, without blanks around the dash.
-void Mostrar_Refus(const Error_Brollador& error) {
-  sessio.Error_Mostrat = true;
-  sessio.pantalla->Caixa(std::to_string(error.Numero()) + "-" + error.Descripcio(), estil::critic);
+Llista_Documents::Llista_Documents(const Descripcio_Llista_Documents& descripcio)
+    : Llista(QString()), descripcio_(descripcio) {}
+
+void Llista_Documents::Muntar() {
+  auto* graella = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella));
+  const auto boto = [this](const char* nom) { return Control_De_Nom<QPushButton>(QString::fromUtf8(nom)); };
+  Llista::Muntar(graella, descripcio_.columnes);
+  Muntar_Botons(boto(descripcio_.boto_nou), boto(descripcio_.boto_esborrar), boto("B_Exit"));
+  for (const auto& [nom, formulari] : descripcio_.botons) {
+    Dibuixar(Control_De_Nom<QPushButton>(QString::fromUtf16(nom)), Dibuix::Calcular);
+    Boto_De_Pantalla(QString::fromUtf16(nom), QString::fromUtf16(formulari));
+  }
+  if (descripcio_.columna_ok == nullptr) return;
+  graella->Estil_De_Fila([this](std::int64_t fila) {
+    const Valor estat = rs_.Valor_De_Fila(fila, rs_.Index_Camp(descripcio_.columna_ok));
+    return !estat.Es_Nul() && estat.Boolea() ? QStringLiteral("OK") : QString();
+  });
 }
 
-}  // namespace
+std::string Llista_Documents::Sentencia() const {
+  return Consulta(descripcio_.consulta, Valors_De(descripcio_.consulta.cerca)) + " ORDER BY " +
+         descripcio_.consulta.ordre;
+}
 
-Llista_Documents::Llista_Documents(const QString& nom, const Tipus_Document& tipus) : Llista(nom), tipus_(tipus) {}
+Valor Llista_Documents::Numero_Actual() {
+  return Graella_Llista()->Valor_Actual(Tipus().cap.Columna("NUMALB").c_str());
+}
 
 void Llista_Documents::Nou() {
   Valor numero;
   try {
-    numero = Crear_Document();
-    Obrir_Editor(numero, ";NEW");
-  } catch (const Error_Brollador& error) {
-    if (!numero.Es_Nul())
-      Esborrar_Document(tipus_, numero, sessio.Empresa_Actual);  // nobody is left with an empty head
-    if (error.Numero() != errors::refusat) throw;
-    Mostrar_Refus(error);
-  }
-}
-
-void Llista_Documents::Obrir_Fila() {
-  try {
-    Obrir_Editor(Graella_Llista()->Valor_Actual(tipus_.cap.Columna("NUMALB").c_str()), ";EDIT");
+    numero = Crear_Capcalera(Tipus());
   } catch (const Error_Brollador& error) {
     if (error.Numero() != errors::refusat) throw;
-    Mostrar_Refus(error);
+    return Mostrar_Refus(error);
   }
+  Obrir_Nou(numero);
 }
 
-void Llista_Documents::Obrir_Editor(const Valor& numero, const char* proposit) {
-  Passar_Numero(numero);
-  sessio.Crida_Mestre = std::string(tipus_.llista) + proposit;
-  const QString editor = QString::fromStdString(std::string(tipus_.formulari));
-  Bloquejar_Per_Tipus(std::string(tipus_.lletra_bloqueig), numero.Text());
+// Nobody is left with an empty head that did not open.
+void Llista_Documents::Obrir_Nou(const Valor& numero) {
+  bool obert = false;
   try {
-    Mostrar_Formulari(editor);
+    obert = Obrir_Document(Tipus(), numero, std::string(Tipus().llista) + ";NEW");
   } catch (...) {
-    Alliberar_Per_Tipus(std::string(tipus_.lletra_bloqueig), numero.Text());
+    Esborrar_Document(Tipus(), numero, sessio.Empresa_Actual);
     throw;
   }
-  Obrir_Formulari(editor);
+  if (!obert) Esborrar_Document(Tipus(), numero, sessio.Empresa_Actual);
+}
+
+// A document that is there no more goes from the list too.
+void Llista_Documents::Obrir_Fila() {
+  if (!Obrir_Document(Tipus(), Numero_Actual(), std::string(Tipus().llista) + ";EDIT")) Requerir();
 }
 
 void Llista_Documents::Esborrar_Fila() {
-  const Valor numero = Graella_Llista()->Valor_Actual(tipus_.cap.Columna("NUMALB").c_str());
+  const Valor numero = Numero_Actual();
   if (numero.Es_Nul()) return;
-  Esborrar(numero);
+  Demanar_Esborrar_Document(Tipus(), numero, sessio.Empresa_Actual);
   Requerir();
 }

@@ -1,25 +1,43 @@
-// The list of a kind of document: new, open, delete. Kinds differ in a description and in their named steps.
+// The list of a kind of document: new, open, delete. Kinds differ in a description.
 #pragma once
 
 #include "core/menes/Llista.h"
-#include "documents/Documents.h"
+#include "documents/M_Consultes.h"
+
+// A button that opens a screen of this kind alone.
+struct Boto_De_Documents {
+  const char16_t* boto;
+  const char16_t* formulari;
+};
+
+struct Descripcio_Llista_Documents {
+  const Descripcio_Consulta& consulta;
+  const char* graella;  // G_AlbM
+  std::vector<Columna_Graella> columnes;
+  const char* boto_nou;
+  const char* boto_esborrar;
+  const char* columna_ok = nullptr;  // a row where it is set shows as OK
+  std::vector<Boto_De_Documents> botons = {};
+};
 
 class Llista_Documents : public Llista {
   Q_OBJECT
  public:
-  Llista_Documents(const QString& nom, const Tipus_Document& tipus);
+  explicit Llista_Documents(const Descripcio_Llista_Documents& descripcio);
 
  protected:
-  virtual Valor Crear_Document() = 0;                   // a head without lines; raises
-  virtual void Esborrar(const Valor& numero) = 0;       // asks and deletes
-  virtual void Passar_Numero(const Valor& numero) = 0;  // to the editor that opens
+  // After setupUi: finds the controls and connects them.
+  void Muntar();
 
+  std::string Sentencia() const override;
   void Nou() override;
   void Obrir_Fila() override;
   void Esborrar_Fila() override;
 
  private:
-  void Obrir_Editor(const Valor& numero, const char* proposit);
+  const Tipus_Document& Tipus() const { return descripcio_.consulta.tipus; }
+  Valor Numero_Actual();
+  void Obrir_Nou(const Valor& numero);
 
-  const Tipus_Document& tipus_;
+  const Descripcio_Llista_Documents& descripcio_;
 };

@@ -5,56 +5,47 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
-#include "documents/Documents.h"
 
 namespace {
 
-constexpr double numero_maxim = 999999999;
+constexpr const char* numero_maxim = "999999999";
+constexpr const char* text_maxim = "ZZZZZZZZZZZZZZZ";
 
-double Numero_Escrit(const std::string& text) {
+double Numero_De(const std::string& text) {
   const std::optional<double> numero = Numero_De_Text(text);
   if (!numero) Llancar_Error(errors::sentencia, "Consultes", text);
   return *numero;
 }
 
-std::string Condicio_Text(const std::string& filtre, const std::string& camp) {
-  if (filtre.empty() || filtre == "%") return {};
-  return " AND " + camp + " LIKE " + Text_SQL("%" + filtre + "%");
+std::string Entre(const char* columna, const std::string& des_de, const std::string& fins_a) {
+  return std::string(columna) + " BETWEEN " + des_de + " AND " + fins_a;
 }
 
-std::string Condicio_Numero(const Criteris_Cerca& criteris, const std::string& camp) {
-  const double entre = Numero_Escrit(criteris.numero_entre);
-  const double y = Numero_Escrit(criteris.numero_y);
-  if (entre == 0 && y == numero_maxim) return {};
-  return " AND " + camp + " BETWEEN " + Numero_SQL(entre) + " AND " + Numero_SQL(y);
+std::string Condicio_Numeros(const char* columna, const Valor_Criteri& valor) {
+  const double des_de = Numero_De(valor.text);
+  const double fins_a = Numero_De(valor.text_y);
+  if (des_de == 0 && fins_a == Numero_De(numero_maxim)) return {};
+  return Entre(columna, Numero_SQL(des_de), Numero_SQL(fins_a));
 }
 
-std::string Condicio_Import(const Criteris_Cerca& criteris, const std::string& camp) {
-  if (criteris.import_entre == 0 && criteris.import_y == 0) return {};
-  if (criteris.import_y == 0) return " AND " + camp + " >= " + Numero_SQL(criteris.import_entre);
-  return " AND " + camp + " BETWEEN " + Numero_SQL(criteris.import_entre) + " AND " + Numero_SQL(criteris.import_y);
+std::string Condicio_Textos(const char* columna, const Valor_Criteri& valor) {
+  if (valor.text == "0" && valor.text_y == text_maxim) return {};
+  return Entre(columna, Text_SQL(valor.text), Text_SQL(valor.text_y));
 }
 
-// The list of heads of a sales document. A filter on the lines brings a join, and DISTINCT shows a document once.
-std::string Consulta_Documents(const Tipus_Document& tipus, const std::string& camps, const Criteris_Cerca& criteris) {
-  const std::string cap(tipus.cap.nom);
-  const std::string lin(tipus.lin.nom);
-  const std::string articles = Condicio_Text(criteris.article, tipus.lin.Columna("ARTICLE")) +
-                               Condicio_Text(criteris.article_desc, tipus.lin.Columna("DESCRIPCIO"));
-  const auto unio = [&](const char* paper) {
-    return cap + "." + tipus.cap.Columna(paper) + " = " + lin + "." + tipus.lin.Columna(paper) + " AND ";
-  };
-  std::string sentencia = articles.empty() ? "SELECT " + camps + " FROM " + cap + " WHERE "
-                                           : "SELECT DISTINCT " + camps + " FROM " + cap + ", " + lin + " WHERE " +
-                                                 unio("NUMALB") + unio("EMPRESA");
-  sentencia += tipus.cap.Columna("EMPRESA") + " = " + Text_SQL(sessio.Empresa_Actual) + articles;
-  sentencia += Condicio_Numero(criteris, tipus.cap.Columna("NUMALB"));
-  const std::string dates = Condicio_Data(criteris.data_entre, criteris.data_y, tipus.cap.Columna("DATA"));
-  if (!dates.empty()) sentencia += " AND " + dates;
-  if (!criteris.client.empty()) sentencia += " AND " + tipus.cap.Columna("CLIENT") + " = " + Text_SQL(criteris.client);
-  sentencia += Condicio_Import(criteris, tipus.cap.Columna("IMPORT"));
-  if (sessio.Nomes_Pendents) sentencia += " AND " + tipus.cap.Columna("ESTAT") + " = 0";
-  return sentencia;
+std::string Condicio_Imports(const char* columna, const Valor_Criteri& valor, bool tancats) {
+  const double des_de = valor.text.empty() ? 0 : Numero_De(valor.text);
+  const double fins_a = valor.text_y.empty() ? 0 : Numero_De(valor.text_y);
+  if (des_de == 0 && fins_a == 0) return {};
+  if (fins_a == 0 && !tancats) return std::string(columna) + " >= " + Numero_SQL(des_de);
+  return Entre(columna, Numero_SQL(des_de), Numero_SQL(fins_a));
+}
+
+Data_Hora L_Endema(const Data_Hora& dia) {
+  using namespace std::chrono;
+  const year_month_day seguent = sys_days(year(dia.any) / dia.mes / dia.dia) + days(1);
+  return {static_cast<int>(seguent.year()), static_cast<int>(static_cast<unsigned>(seguent.month())),
+          static_cast<int>(static_cast<unsigned>(seguent.day()))};
 }
 
 // A month that is shorter gives its last day.
@@ -66,21 +57,93 @@ Data_Hora Un_Mes_Abans(const Data_Hora& dia) {
           std::min(dia.dia, static_cast<int>(ultim))};
 }
 
-}  // namespace
-
-Criteris_Cerca Criteris_Per_Defecte() {
-  Criteris_Cerca criteris;
-  criteris.data_y = Avui();
-  criteris.data_entre = Un_Mes_Abans(*criteris.data_y);
-  return criteris;
+std::string Condicio(const Criteri& criteri, const Valor_Criteri& valor) {
+  const std::string columna = criteri.columna;
+  switch (criteri.mena) {
+    case Mena_Criteri::Numeros:
+      return Condicio_Numeros(criteri.columna, valor);
+    case Mena_Criteri::Textos:
+      return Condicio_Textos(criteri.columna, valor);
+    case Mena_Criteri::Imports:
+      return Condicio_Imports(criteri.columna, valor, false);
+    case Mena_Criteri::Limits:
+      return Condicio_Imports(criteri.columna, valor, true);
+    case Mena_Criteri::Dates:
+      return Condicio_Data(valor.data, valor.data_y, columna);
+    case Mena_Criteri::Moments:
+      return Condicio_Data(valor.data, valor.data_y ? std::optional(L_Endema(*valor.data_y)) : std::nullopt, columna);
+    case Mena_Criteri::Codi:
+      return valor.text.empty() ? std::string() : columna + " = " + Text_SQL(valor.text);
+    case Mena_Criteri::Conte:
+      if (valor.text.empty() || valor.text == "%") return {};
+      return columna + " LIKE " + Text_SQL("%" + valor.text + "%");
+  }
+  return {};
 }
 
-std::string Consulta_Albarans(const Criteris_Cerca& criteris, bool llarga) {
-  return Consulta_Documents(tipus_albara,
-                            llarga ? "NUMALB_AC, DATA_AC, CLIENT_AC, CLIENT_DESC_AC, OBSR_AC, IMPORT_AC, IVA_AC, "
-                                     "RE_AC, ESTAT_AC, NUMFAC_AC"
-                                   : "NUMALB_AC, DATA_AC, CLIENT_DESC_AC, OBSR_AC, IMPORT_AC, ESTAT_AC",
-                            criteris);
+Valor_Criteri Per_Defecte(Mena_Criteri mena) {
+  switch (mena) {
+    case Mena_Criteri::Numeros:
+      return {.text = "0", .text_y = numero_maxim};
+    case Mena_Criteri::Textos:
+      return {.text = "0", .text_y = text_maxim};
+    case Mena_Criteri::Imports:
+    case Mena_Criteri::Limits:
+      return {.text = "0", .text_y = "0"};
+    case Mena_Criteri::Dates:
+    case Mena_Criteri::Moments:
+      return {.data = Un_Mes_Abans(Avui()), .data_y = Avui()};
+    case Mena_Criteri::Conte:
+      return {.text = "%"};
+    case Mena_Criteri::Codi:
+      break;
+  }
+  return {};
+}
+
+}  // namespace
+
+Valors_Cerca Valors_Per_Defecte(const std::vector<Criteri>& criteris) {
+  Valors_Cerca valors;
+  for (const Criteri& criteri : criteris) valors[criteri.control] = Per_Defecte(criteri.mena);
+  return valors;
+}
+
+// A filter on the lines brings them in, and DISTINCT shows a document once.
+std::string Consulta(const Descripcio_Consulta& descripcio, const Valors_Cerca& valors, bool llarga) {
+  const Taula_Document& cap = descripcio.tipus.cap;
+  const Taula_Document& lin = descripcio.tipus.lin;
+  const std::string camps = llarga ? descripcio.camps_llargs : descripcio.camps;
+  const std::string de_linies = Condicions(descripcio.criteris, valors, true);
+  std::string taules(cap.nom);
+  std::string unions;
+  if (!de_linies.empty()) {
+    taules += ", " + std::string(lin.nom);
+    for (const char* paper : {"NUMALB", "EMPRESA"}) {
+      unions += std::string(cap.nom) + "." + cap.Columna(paper) + " = " + std::string(lin.nom) + "." +
+                lin.Columna(paper) + " AND ";
+    }
+  }
+  if (*descripcio.taula_unida != '\0') {
+    taules += std::string(", ") + descripcio.taula_unida;
+    unions += std::string(descripcio.unio) + " AND ";
+  }
+  const bool pendents = sessio.Nomes_Pendents && descripcio.estat != nullptr;
+  return (de_linies.empty() ? "SELECT " : "SELECT DISTINCT ") + camps + " FROM " + taules + " WHERE " + unions +
+         cap.Columna("EMPRESA") + " = " + Text_SQL(sessio.Empresa_Actual) + de_linies +
+         Condicions(descripcio.criteris, valors) +
+         (pendents ? std::string(" AND ") + descripcio.estat + " = 0" : std::string());
+}
+
+std::string Condicions(const std::vector<Criteri>& criteris, const Valors_Cerca& valors, bool de_linies) {
+  std::string condicions;
+  for (const Criteri& criteri : criteris) {
+    const auto valor = valors.find(criteri.control);
+    if (criteri.de_linies != de_linies || valor == valors.end()) continue;
+    const std::string condicio = Condicio(criteri, valor->second);
+    if (!condicio.empty()) condicions += " AND " + condicio;
+  }
+  return condicions;
 }
 
 std::string Condicio_Data(const std::optional<Data_Hora>& des_de, const std::optional<Data_Hora>& fins_a,

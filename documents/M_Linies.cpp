@@ -52,32 +52,54 @@ void Calcular_Des_Del_Marge(Resultat_Linia& linia, double porc_marge, double dte
 
 }  // namespace
 
+Mode_Calcul Mode_De_Paraula(std::string_view paraula) {
+  static constexpr std::pair<std::string_view, Mode_Calcul> modes[] = {
+      {"COST", Mode_Calcul::Cost},
+      {"DTE", Mode_Calcul::Dte},
+      {"PORC_MARGE", Mode_Calcul::Porc_Marge},
+      {"PREU_UNITARI", Mode_Calcul::Preu_Unitari},
+      {"PVP", Mode_Calcul::Pvp},
+      {"UNITATS", Mode_Calcul::Unitats},
+  };
+  if (paraula == "IVA_ART") return Mode_Calcul::Iva;
+  for (const auto& [nom, mode] : modes) {
+    if (paraula == std::string(nom) + "_PL" || paraula == std::string(nom) + "_ACL") return mode;
+  }
+  return Mode_Calcul::Cap;
+}
+
 Resultat_Linia Calcular_Linia(double cost, double unitats, double porc_marge, double dte_article, double porc_iva,
                               double porc_re, double preu_unitari, double pvp, double dte, std::string_view camp) {
-  const Resultat_Linia zeros{.unitats = unitats, .porc_iva = porc_iva, .porc_re = porc_re};
-  Resultat_Linia linia = zeros;
+  return Calcular_Linia(cost, unitats, porc_marge, dte_article, porc_iva, porc_re, preu_unitari, pvp, dte,
+                        Mode_De_Paraula(camp));
+}
+
+Resultat_Linia Calcular_Linia(double cost, double unitats, double porc_marge, double dte_article, double porc_iva,
+                              double porc_re, double preu_unitari, double pvp, double dte, Mode_Calcul mode) {
+  Resultat_Linia linia{.unitats = unitats, .porc_iva = porc_iva, .porc_re = porc_re};
+  if (mode == Mode_Calcul::Cap) return linia;
   linia.cost = cost;
   linia.dte = dte;
-  if (camp == "PORC_MARGE_PL") {
+  if (mode == Mode_Calcul::Porc_Marge) {
     Calcular_Des_Del_Marge(linia, porc_marge, dte_article);
     return linia;
   }
-  if (camp == "PVP_PL") {
+  if (mode == Mode_Calcul::Pvp) {
     linia.preu_unitari = Arrodonir(Dividir(pvp, 1 + (porc_iva + porc_re) / 100), 2);
     linia.pvp = pvp;
     Calcular_Des_Del_Preu(linia);
     return linia;
   }
-  if (camp == "COST_PL" || camp == "DTE_PL") {
-    linia.preu_unitari = cost == 0 ? preu_unitari : Preu_Des_Del_Cost(cost, dte_article);
-  } else if (camp == "PREU_UNITARI_PL" || camp == "UNITATS_PL" || camp == "IVA_ART") {
-    linia.preu_unitari = preu_unitari;
-  } else {
-    return zeros;
-  }
+  const bool del_cost = (mode == Mode_Calcul::Cost || mode == Mode_Calcul::Dte) && cost != 0;
+  linia.preu_unitari = del_cost ? Preu_Des_Del_Cost(cost, dte_article) : preu_unitari;
   linia.pvp = Amb_Impostos(linia.preu_unitari, porc_iva, porc_re);
   Calcular_Des_Del_Preu(linia);
   return linia;
+}
+
+void Valorar_Al_Cost(Resultat_Linia& linia) {
+  linia.import_net = Arrodonir(linia.cost * linia.unitats, 2);
+  linia.import_brut = Amb_Impostos(linia.import_net, linia.porc_iva, linia.porc_re);
 }
 
 Taxes_Linia Taxes_De_Linia(const std::string& codi_iva, bool iva, bool re) {

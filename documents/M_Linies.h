@@ -18,11 +18,20 @@ struct Resultat_Linia {
   double dte = 0;
 };
 
-// Prices in euros, percentages in percent. `camp` says which field changed: COST_PL, DTE_PL, PORC_MARGE_PL,
-// PREU_UNITARI_PL, PVP_PL, UNITATS_PL or IVA_ART; any other word gives zeros but for units and rates.
-// PORC_MARGE_PL raises 11 when the net amount comes to exactly 0.
+// Which field changed: the others follow it.
+enum class Mode_Calcul { Cost, Dte, Porc_Marge, Preu_Unitari, Pvp, Unitats, Iva, Cap };
+// The mode of a word: COST_PL, DTE_PL, PORC_MARGE_PL, PREU_UNITARI_PL, PVP_PL, UNITATS_PL (of purchases with _ACL) or
+// IVA_ART; Cap for any other.
+Mode_Calcul Mode_De_Paraula(std::string_view paraula);
+
+// Prices in euros, percentages in percent. Mode Cap gives zeros but for units and rates. Porc_Marge raises 11 when the
+// net amount comes to exactly 0.
+Resultat_Linia Calcular_Linia(double cost, double unitats, double porc_marge, double dte_article, double porc_iva,
+                              double porc_re, double preu_unitari, double pvp, double dte, Mode_Calcul mode);
 Resultat_Linia Calcular_Linia(double cost, double unitats, double porc_marge, double dte_article, double porc_iva,
                               double porc_re, double preu_unitari, double pvp, double dte, std::string_view camp);
+// Goods that come in count at their cost: both amounts of the line follow from it.
+void Valorar_Al_Cost(Resultat_Linia& linia);
 
 // Tax rates that a line of the article's type takes under the boxes of its head, in percent. Reads IVAS when `iva`.
 // Raises 13 when the type does not exist.

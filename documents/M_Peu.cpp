@@ -39,7 +39,8 @@ std::vector<Grup> Llegir_Grups(const Document& document) {
   std::vector<Grup> grups;
   Recordset rs(SQL_Grups(document), sessio.Connexio_Comuna);
   for (; !rs.Eof(); rs.MoveNext())
-    grups.push_back({Nul_A_Defecte(rs[lin.Columna("PORC_IVA")]).Doble(), Nul_A_Defecte(rs["IMPORT_NET"]).Doble()});
+    grups.push_back(
+        {Nul_A_Defecte(rs[lin.Columna("PORC_IVA")]).Doble(), Arrodonir(Nul_A_Defecte(rs["IMPORT_NET"]).Doble(), 2)});
   return grups;
 }
 
@@ -47,12 +48,13 @@ std::vector<Grup> Llegir_Grups(const Document& document) {
 double Escriure_Imports(Recordset& rs, const Taula_Document& peu, double base) {
   const double iva = Arrodonir(base * rs[peu.Columna("PORC_IVA")].Doble() / 100, 2);
   const double re = Arrodonir(base * rs[peu.Columna("PORC_RE")].Doble() / 100, 2);
+  const double total = Arrodonir(base + iva + re, 2);
   rs.Set(peu.Columna("BASE"), base);
   rs.Set(peu.Columna("IVA"), iva);
   rs.Set(peu.Columna("RE"), re);
-  rs.Set(peu.Columna("IMPORT"), base + iva + re);
+  rs.Set(peu.Columna("IMPORT"), total);
   rs.Update();
-  return base + iva + re;
+  return total;
 }
 
 void Afegir_Fila(Recordset& rs, const Document& document, const Grup& grup, bool amb_re) {

@@ -1,6 +1,5 @@
 #include "masters/F_ArticlesMCS.h"
 
-#include "core/formularis/Aparenca.h"
 #include "core/formularis/Control_Interface.h"
 #include "masters/F_Columnes_Articles.h"
 #include "masters/M_Articles.h"
@@ -10,7 +9,7 @@ F_ArticlesMCS::F_ArticlesMCS() : Llista(QStringLiteral("F_ArticlesMCS")), ui_(st
   ui_->setupUi(this);
   Muntar(ui_->G_ArticlesMCS, Columnes_Articles());
   Muntar_Botons(nullptr, nullptr, ui_->B_Exit);
-  Dibuixar(ui_->B_Filtre, Dibuix::Cercar);
+  Muntar_Filtre(ui_->B_Filtre, {ui_->TXT_CODI, ui_->TXT_DESCRIPCIO});
   ui_->G_ArticlesMCS->Estil_De_Fila([this](std::int64_t fila) { return Estil_Article(rs_, fila); });
   connect(ui_->B_Filtre, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Filtrar(); }); });
 }
@@ -38,6 +37,7 @@ void F_ArticlesMCS::Filtrar() {
 }
 
 void F_ArticlesMCS::Obrir_Fila() {
+  if (!Deixar_El_D_Abans(QStringLiteral("F_ARTICLE"))) return;
   sessio.Codi_Article = Graella_Llista()->Valor_Actual("CODI_ART").Text();
   sessio.Crida_Document = "F_ARTICLESMCS;EDIT";
   if (Mostrar_Formulari(QStringLiteral("F_ARTICLE")) != nullptr) Obrir_Formulari(QStringLiteral("F_ARTICLE"));

@@ -41,8 +41,11 @@ F_ArticlesSelC::F_ArticlesSelC()
 F_ArticlesSelC::~F_ArticlesSelC() = default;
 
 void F_ArticlesSelC::Carregar() {
-  for (const Combo& combo : combos)
-    ((*ui_).*combo.combo)->Omplir(combo.sentencia, sessio.Connexio_Comuna, combo.codi, combo.descripcio);
+  for (const Combo& combo : combos) {
+    Combo_Codi* criteri = (*ui_).*combo.combo;
+    criteri->Text_Estrany_Es_Cap();
+    criteri->Omplir(combo.sentencia, sessio.Connexio_Comuna, combo.codi, combo.descripcio);
+  }
   ui_->CMB_FAMILIA->setFocus();
 }
 

@@ -49,24 +49,41 @@ std::string F_Client::Sentencia() const {
 // The row of additional data is added when it is missing.
 void F_Client::Abans_De_Mostrar() {
   if (!Amb_Dades_Addicionals()) return;
-  Assegurar_Dades_Client(sessio.Nif_Client);
-  Afegir_Fila(dades_, "CLIENTS_DADES", SQL_Client_Dades(sessio.Nif_Client));
+  Afegir_Fila(
+      dades_, "CLIENTS_DADES", [] { return SQL_Client_Dades(sessio.Nif_Client); },
+      [] { Assegurar_Dades_Client(sessio.Nif_Client); });
 }
 
 void F_Client::Mostrar_Altres() {
   sessio.Nif_Client = rs_["NIF_CLI"].Text();
 }
 
-// The additional data follow a change of name or of tax code.
+// Whatever is saved, the additional data carry the name and the tax code by which they are found.
 void F_Client::Abans_De_Desar() {
-  if (!dades_.State() || rs_.EditMode() == Edicio::Cap) return;
-  dades_.Set("NIF_CLID", rs_["NIF_CLI"]);
-  dades_.Set("CLIENT_DESC_CLID", rs_["RAO_SOCIAL_CLI"]);
+  if (!dades_.State() || (rs_.EditMode() == Edicio::Cap && dades_.EditMode() == Edicio::Cap)) return;
+  for (const auto& [columna, del_client] :
+       {std::pair("NIF_CLID", "NIF_CLI"), std::pair("CLIENT_DESC_CLID", "RAO_SOCIAL_CLI")}) {
+    if (!(dades_[columna] == rs_[del_client])) dades_.Set(columna, rs_[del_client]);
+  }
+}
+
+// What a customer of the new code that was deleted has left is nobody's.
+void F_Client::Abans_D_Escriure() {
+  if (!dades_.State()) return;
+  const std::string abans = dades_.Valor_De_Fila(0, dades_.Index_Camp("NIF_CLID")).Text();
+  const std::string ara = dades_["NIF_CLID"].Text();
+  if (ara != abans) Esborrar_Dades_Sobreres(ara, abans);
 }
 
 void F_Client::Mostrar_Vendes() {
   vendes_.Open(SQL_Vendes_Client(sessio.Nif_Client), sessio.Connexio_Comuna);
   ui_->G_AlbLinCliM->Lligar(&vendes_);
+}
+
+void F_Client::Refrescar_Documents() {
+  if (!vendes_.State()) return;
+  vendes_.Requery();
+  ui_->G_AlbLinCliM->Refrescar();
 }
 
 void F_Client::Descarregar() {

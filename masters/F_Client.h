@@ -15,12 +15,15 @@ class F_Client : public Fitxa {
   F_Client();
   ~F_Client() override;
   void Descarregar() override;
+  // The tab of its documents, after one of them changed.
+  void Refrescar_Documents();
 
  protected:
   std::string Sentencia() const override;
   void Abans_De_Mostrar() override;
   void Mostrar_Altres() override;
   void Abans_De_Desar() override;
+  void Abans_D_Escriure() override;
 
  private:
   bool Amb_Dades_Addicionals() const;

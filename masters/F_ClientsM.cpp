@@ -42,7 +42,7 @@ F_ClientsM::F_ClientsM()
   Muntar(ui_->G_ClientsM, columnes);
   ui_->G_ClientsM->horizontalHeader()->moveSection(columna_naixement, lloc_naixement);
   Muntar_Botons(ui_->B_NouClient, ui_->B_EsborrarClient, ui_->B_Exit);
-  Dibuixar(ui_->B_Filtre, Dibuix::Cercar);
+  Muntar_Filtre(ui_->B_Filtre, {ui_->CLIENT_DESC});
   Dibuixar(ui_->B_FILTRE_ANIVERSARIS, Dibuix::Llista);
   Dibuixar(ui_->B_EMAILS, Dibuix::Correu);
   connect(ui_->B_Filtre, &QPushButton::clicked, this, [this] { Guardar_Event([this] { Reobrir(); }); });

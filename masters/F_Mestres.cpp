@@ -13,7 +13,7 @@
 void Registrar_Formularis_Mestres() {
   Registrar_Formulari(QStringLiteral("F_CLIENTSM"), [] { return new F_ClientsM; });
   Registrar_Formulari(QStringLiteral("F_CLIENT"), [] { return new F_Client; });
-  Registrar_Formulari(QStringLiteral("F_PROVEIDORSM"), [] { return new F_ProveidorsM; });
+  Registrar_Formulari(QStringLiteral("F_PROVEIDORSM"), [] { return new Llista_Descrita(Llista_Proveidors()); });
   Registrar_Formulari(QStringLiteral("F_PROVEIDOR"), [] { return new F_Proveidor; });
   Registrar_Formulari(QStringLiteral("F_ARTICLESSELC"), [] { return new F_ArticlesSelC; });
   Registrar_Formulari(QStringLiteral("F_ARTICLESMC"), [] { return new F_ArticlesMC; });

@@ -18,42 +18,39 @@ void Esborrar_Codi(const Recordset& fila) {
   esborrar(fila[0].Text());
 }
 
-// Stores the code of a payment method and shows its description.
-void Omplir_Formes_Pagament(Graella& graella) {
-  Recordset rs("SELECT ID_FP, DESCRIPCIO_FP FROM FORMES_PAGAMENT ORDER BY DESCRIPCIO_FP", sessio.Connexio_Comuna);
-  std::vector<Opcio_Graella> opcions;
-  for (; !rs.Eof(); rs.MoveNext())
-    opcions.push_back({QString::fromStdString(rs["ID_FP"].Text()), QString::fromStdString(rs["DESCRIPCIO_FP"].Text())});
-  graella.Desplegable(QStringLiteral("FP_VEN"), opcions);
-}
+constexpr Desplegable_Referencia formes_de_pagament = {
+    .camp = "FP_VEN",
+    .sentencia = "SELECT ID_FP, DESCRIPCIO_FP FROM FORMES_PAGAMENT ORDER BY DESCRIPCIO_FP",
+    .titols_codi = {"Codi", "Código", "Code"},
+    .titols_text = {"Forma de Pagament", "Forma de Pago", "Method of payment"}};
 
 const std::vector<Descripcio_Referencia>& Referencies() {
   static const std::vector<Descripcio_Referencia> referencies = {
       {.formulari = u"F_MarquesM",
        .titol = u"Marques",
        .graella = u"G_MarquesM",
-       .sentencia = "SELECT * FROM MARQUES ORDER BY CODI_MAR",
+       .sentencia = [] { return std::string("SELECT * FROM MARQUES ORDER BY CODI_MAR"); },
        .columnes = {{"CODI_MAR", 3000, "Marca"}, {"DESCRIPCIO_MAR", 7500, "Descripció"}},
        .boto_esborrar = u"B_Esborrar",
        .esborrar = Esborrar_Codi<Esborrar_Marca>},
       {.formulari = u"F_FamiliesM",
        .titol = u"Famílies",
        .graella = u"G_FamiliesM",
-       .sentencia = "SELECT * FROM FAMILIES ORDER BY CODI_FAM",
+       .sentencia = [] { return std::string("SELECT * FROM FAMILIES ORDER BY CODI_FAM"); },
        .columnes = {{"CODI_FAM", 3000, "Família"}, {"DESCRIPCIO_FAM", 7500, "Descripció"}},
        .boto_esborrar = u"B_Esborrar",
        .esborrar = Esborrar_Codi<Esborrar_Familia>},
       {.formulari = u"F_SubfamiliesM",
        .titol = u"SubFamílies",
        .graella = u"G_SubfamiliesM",
-       .sentencia = "SELECT * FROM SUBFAMILIES ORDER BY CODI_SUBF",
+       .sentencia = [] { return std::string("SELECT * FROM SUBFAMILIES ORDER BY CODI_SUBF"); },
        .columnes = {{"CODI_SUBF", 3000, "Subfamília"}, {"DESCRIPCIO_SUBF", 7500, "Descripció"}},
        .boto_esborrar = u"B_Esborrar",
        .esborrar = Esborrar_Codi<Esborrar_Subfamilia>},
       {.formulari = u"F_IvasM",
        .titol = u"Tipus d'IVA",
        .graella = u"G_IvasM",
-       .sentencia = "SELECT * FROM IVAS ORDER BY CODI_IVA",
+       .sentencia = [] { return std::string("SELECT * FROM IVAS ORDER BY CODI_IVA"); },
        .columnes = {{"CODI_IVA", 800, "Codi"},
                     {"DESC_IVA", 4000, "Descripció"},
                     {"PORC_IVA", 2000, "% IVA", true},
@@ -63,7 +60,7 @@ const std::vector<Descripcio_Referencia>& Referencies() {
       {.formulari = u"F_CPM",
        .titol = u"Codis Postals",
        .graella = u"G_CPM",
-       .sentencia = "SELECT * FROM CP ORDER BY LOCALITAT_CP",
+       .sentencia = [] { return std::string("SELECT * FROM CP ORDER BY LOCALITAT_CP"); },
        .columnes = {{"CP_CP", 1500, "CP"},
                     {"LOCALITAT_CP", 4500, "Localitat"},
                     {"PROVINCIA_CP", 2700, "Provincia"},
@@ -73,7 +70,7 @@ const std::vector<Descripcio_Referencia>& Referencies() {
       {.formulari = u"F_VencimentsM",
        .titol = u"Venciments",
        .graella = u"G_VencimentsM",
-       .sentencia = "SELECT * FROM VENCIMENTS ORDER BY CODI_VEN",
+       .sentencia = [] { return std::string("SELECT * FROM VENCIMENTS ORDER BY CODI_VEN"); },
        .columnes = {{"CODI_VEN", 1200, "Codi"},
                     {"DESCRIPCIO_VEN", 3000, "Descripció"},
                     {"DIES_VEN", 1000, "Dies", true},
@@ -82,11 +79,11 @@ const std::vector<Descripcio_Referencia>& Referencies() {
        .boto_esborrar = u"B_EsborrarVenciment",
        .esborrar = Esborrar_Codi<Esborrar_Venciment>,
        .cerca_amb_la_dreta = true,
-       .desplegables = Omplir_Formes_Pagament},
+       .desplegables = {formes_de_pagament}},
       {.formulari = u"F_FormesPagamentM",
        .titol = u"Formes de Pagament",
        .graella = u"G_FormesPagamentM",
-       .sentencia = "SELECT * FROM FORMES_PAGAMENT ORDER BY ID_FP",
+       .sentencia = [] { return std::string("SELECT * FROM FORMES_PAGAMENT ORDER BY ID_FP"); },
        .columnes = {{"ID_FP", 1200, "Codi"},
                     {"DESCRIPCIO_FP", 4800, "Descripció"},
                     {"COMPTE_EMI_FP", 1200, "Compte Emisor", false, "", true},
@@ -98,7 +95,8 @@ const std::vector<Descripcio_Referencia>& Referencies() {
       {.formulari = u"F_MagatzemsM",
        .titol = u"Magatzems",
        .graella = u"G_MagatzemsM",
-       .sentencia = "SELECT CODI_ALM, DESC_ALM, STOCK_NEG_ALM FROM ALMACENES ORDER BY CODI_ALM",
+       .sentencia =
+           [] { return std::string("SELECT CODI_ALM, DESC_ALM, STOCK_NEG_ALM FROM ALMACENES ORDER BY CODI_ALM"); },
        .columnes = {{"CODI_ALM", 3000, "Magatzem"},
                     {"DESC_ALM", 5500, "Descripció"},
                     {"STOCK_NEG_ALM", 2000, "Existències Negatives", false, "", true}},

@@ -161,5 +161,5 @@ std::string SQL_Articles(const Criteris_Articles& criteris) {
 }
 
 std::string SQL_Article(const std::string& codi) {
-  return "SELECT * FROM ARTICLES WHERE CODI_ART = " + Text_SQL(codi);
+  return "SELECT * FROM ARTICLES WHERE CODI_ART = " + Codi_SQL(codi);
 }

@@ -14,8 +14,8 @@ constexpr Pregunta pregunta = {"Segur d'esborrar el Codi Postal ", "¿Seguro de 
 
 void Esborrar_CP(const std::string& cp, const std::string& localitat) {
   if (!Confirmar(pregunta, cp) || CP_En_Us(cp)) return;
-  sessio.Connexio_Comuna.Execute("DELETE * FROM CP WHERE CP_CP = " + Text_SQL(cp) +
-                                 " AND LOCALITAT_CP = " + Text_SQL(localitat));
+  sessio.Connexio_Comuna.Execute("DELETE * FROM CP WHERE CP_CP = " + Codi_SQL(cp) +
+                                 " AND LOCALITAT_CP = " + Codi_SQL(localitat));
 }
 
 std::string Localitat_CP(const std::string& cp) {

@@ -35,12 +35,12 @@ struct Condicions {
 
 Condicions Condicions_De(const std::string& nif) {
   Condicions condicions;
-  const Recordset client("SELECT VENCIMENT_CLI, DIA_PAG_CLI FROM CLIENTS WHERE NIF_CLI = " + Text_SQL(nif),
+  const Recordset client("SELECT VENCIMENT_CLI, DIA_PAG_CLI FROM CLIENTS WHERE NIF_CLI = " + Codi_SQL(nif),
                          sessio.Connexio_Comuna);
   const bool existeix = client.RecordCount() > 0;
   const std::string codi = existeix ? client["VENCIMENT_CLI"].Text() : "0";
   if (existeix) condicions.dia_pagament = static_cast<int>(Nul_A_Defecte(client["DIA_PAG_CLI"]).Enter());
-  const Recordset venciment("SELECT * FROM VENCIMENTS WHERE CODI_VEN = " + Text_SQL(codi), sessio.Connexio_Comuna);
+  const Recordset venciment("SELECT * FROM VENCIMENTS WHERE CODI_VEN = " + Codi_SQL(codi), sessio.Connexio_Comuna);
   if (venciment.RecordCount() == 0) return condicions;
   condicions.dies = Nul_A_Defecte(venciment["DIES_VEN"]).Doble();
   condicions.terminis = static_cast<int>(Nul_A_Defecte(venciment["TERMINIS_VEN"]).Enter());
@@ -120,7 +120,7 @@ std::array<std::string, 7> Dades_Client(const std::string& nif) {
   const Recordset rs(
       "SELECT NIF_CLI, RAO_SOCIAL_CLI, NOM_COMERCIAL_CLI, ADREÇA_CLI, CP_CLI, LOCALITAT_CLI, CODI_CLIENT_CLI "
       "FROM CLIENTS WHERE NIF_CLI = " +
-          Text_SQL(nif),
+          Codi_SQL(nif),
       sessio.Connexio_Comuna);
   if (rs.RecordCount() == 0) return dades;
   for (std::size_t i = 0; i < dades.size(); ++i) dades[i] = rs[static_cast<int>(i)].Text();
@@ -152,7 +152,7 @@ bool Client_En_Us(const std::string& nif) {
 std::string Nou_Client() {
   std::string codi = Proxim_Codi("CLIENTS");
   const std::string nom = "Client" + codi;
-  Transaccio transaccio;
+  Transaccio transaccio(sessio.Connexio_Comuna);
   Crear_Fila("CLIENTS", {{"NIF_CLI", codi},
                          {"RAO_SOCIAL_CLI", nom},
                          {"NOM_COMERCIAL_CLI", nom},
@@ -174,6 +174,11 @@ void Esborrar_Client(const std::string& nif, const std::string& rao_social) {
 void Assegurar_Dades_Client(const std::string& nif) {
   if (Recordset(SQL_Client_Dades(nif), sessio.Connexio_Comuna).RecordCount() > 0) return;
   Crear_Fila("CLIENTS_DADES", {{"NIF_CLID", nif}, {"CLIENT_DESC_CLID", Camp_De(clau, nif, "RAO_SOCIAL_CLI")}});
+}
+
+void Esborrar_Dades_Sobreres(const std::string& nif, const std::string& nif_abans) {
+  sessio.Connexio_Comuna.Execute_Despres("DELETE * FROM CLIENTS_DADES WHERE NIF_CLID = " + Codi_SQL(nif) +
+                                         " AND NIF_CLID <> " + Codi_SQL(nif_abans));
 }
 
 void Avisar_Client_Existent() {
@@ -206,7 +211,7 @@ std::string Emails_Clients(Recordset& clients) {
   std::vector<std::string> codis;
   const int nif = clients.Index_Camp("NIF_CLI");
   for (std::int64_t fila = 0; fila < clients.RecordCount(); ++fila)
-    codis.push_back(Text_SQL(clients.Valor_De_Fila(fila, nif).Text()));
+    codis.push_back(Codi_SQL(clients.Valor_De_Fila(fila, nif).Text()));
   std::sort(codis.begin(), codis.end());
   std::string adreces;
   for (std::size_t i = 0; i < codis.size(); i += per_sentencia) {
@@ -236,11 +241,11 @@ std::string SQL_Aniversaris(const std::string& text) {
 }
 
 std::string SQL_Client(const std::string& nif) {
-  return "SELECT * FROM CLIENTS WHERE NIF_CLI = " + Text_SQL(nif);
+  return "SELECT * FROM CLIENTS WHERE NIF_CLI = " + Codi_SQL(nif);
 }
 
 std::string SQL_Client_Dades(const std::string& nif) {
-  return "SELECT * FROM CLIENTS_DADES WHERE NIF_CLID = " + Text_SQL(nif);
+  return "SELECT * FROM CLIENTS_DADES WHERE NIF_CLID = " + Codi_SQL(nif);
 }
 
 std::string SQL_Vendes_Client(const std::string& nif) {
@@ -248,5 +253,5 @@ std::string SQL_Vendes_Client(const std::string& nif) {
          "JOIN "
          "ALBARALIN ON (ALBARACAP.EMPRESA_AC = ALBARALIN.EMPRESA_AL) AND (ALBARACAP.NUMALB_AC = ALBARALIN.NUMALB_AL) "
          "WHERE CLIENT_AC = " +
-         Text_SQL(nif) + " ORDER BY DATA_AC DESC";
+         Codi_SQL(nif) + " ORDER BY DATA_AC DESC";
 }

@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-#include "core/Sessio.h"
+#include "core/M_Mestres.h"
 
 bool Client_Te_IVA(const std::string& nif);
 bool Client_Te_RE(const std::string& nif);
@@ -22,6 +22,8 @@ std::string Nou_Client();
 void Esborrar_Client(const std::string& nif, const std::string& rao_social);  // asks; nothing when in use
 // The customer's row of additional data, added when it is missing.
 void Assegurar_Dades_Client(const std::string& nif);
+// The additional data of the code `nif` that are not those of the code `nif_abans`. Writes CLIENTS_DADES.
+void Esborrar_Dades_Sobreres(const std::string& nif, const std::string& nif_abans);
 void Avisar_Client_Existent();  // the box of a tax code that is taken
 
 // Due dates of `import` euros from `data` by the customer's terms: nothing, the description of the terms, and the text
@@ -44,3 +46,4 @@ std::string SQL_Client(const std::string& nif);
 std::string SQL_Client_Dades(const std::string& nif);
 std::string SQL_Vendes_Client(const std::string& nif);
 std::string SQL_Combo_Clients();
+inline constexpr Noms_Amb_Codi noms_clients = {SQL_Combo_Clients, "NIF_CLI", "RAO_SOCIAL_CLI"};

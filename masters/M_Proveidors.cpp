@@ -51,5 +51,9 @@ std::string SQL_Proveidors() {
 }
 
 std::string SQL_Proveidor(const std::string& nif) {
-  return "SELECT * FROM PROVEIDORS WHERE NIF_PRO = " + Text_SQL(nif);
+  return "SELECT * FROM PROVEIDORS WHERE NIF_PRO = " + Codi_SQL(nif);
+}
+
+std::string SQL_Combo_Proveidors() {
+  return "SELECT NIF_PRO, RAO_SOCIAL_PRO FROM PROVEIDORS ORDER BY RAO_SOCIAL_PRO";
 }

@@ -16,6 +16,8 @@ std::array<std::string, 6> Dades_Proveidor(const std::string& nif);
 bool Proveidor_Te_IVA(const std::string& nif);
 bool Proveidor_En_Us(const std::string& nif);
 
-// Statements of the list and of the editor.
+// Statements of the list, of the editor and of the combo of a document.
 std::string SQL_Proveidors();
 std::string SQL_Proveidor(const std::string& nif);
+std::string SQL_Combo_Proveidors();
+inline constexpr Noms_Amb_Codi noms_proveidors = {SQL_Combo_Proveidors, "NIF_PRO", "RAO_SOCIAL_PRO"};

@@ -1,38 +1,32 @@
-// What a printed document shows, taken from the databases. Reads the document's tables; fills and empties the local
-// work tables *_VALORAT_IMPR. Knows nothing of pages.
+// What a printed document shows, taken from the databases. Reads the document's tables, EMPRESES, CLIENTS, PROVEIDORS;
+// fills and empties the local work tables *_VALORAT_IMPR. Knows nothing of pages.
 #pragma once
 
-#include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "documents/Documents.h"
+#include "output/M_Informes.h"
 
-// The local table that the lines of this kind are printed from.
-std::string Taula_Impressio(const Tipus_Document& tipus);
-// Its rows, in the order of the lines.
-std::string SQL_Impressio(const Tipus_Document& tipus);
+// The rows of the work table, in the order of the lines.
+std::string SQL_Impressio(const Descripcio_Impressio& informe);
 // Empties the work table and copies the document's lines into it; a line break in a description becomes one
 // no-break space.
-void Omplir_Taula_Impressio(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
-void Buidar_Taula_Impressio(const Tipus_Document& tipus);
+void Omplir_Taula_Impressio(const Descripcio_Impressio& informe, const Valor& numero, const std::string& empresa);
+void Buidar_Taula_Impressio(const Descripcio_Impressio& informe);
 
-struct Capcalera_Impressa {
-  std::string data;  // DD/MM/YYYY
-  std::string client;
-  std::string observacions;
+// What is to be set on the controls of a report, by their names.
+struct Ompliment_Informe {
+  std::vector<std::pair<std::string, std::string>> textos;   // a control and its caption, in this order
+  std::vector<std::string> amagats;                          // controls that are not printed
+  std::vector<std::pair<std::string, const char*>> formats;  // a field and its mask
+  std::string imatge;                                        // file of the logo; empty: none
+  int posicio_top = 0;                                       // twips: where the company's block begins, with a logo
+
+  const std::string* Text_De(std::string_view control) const;  // the last one that was set; null: none was
 };
-// Empty texts when there is no such document.
-Capcalera_Impressa Dades_Capcalera(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 
-// Sum of the work table's amounts, euros.
-double Net_Impres(const Tipus_Document& tipus);
-
-// A foot row: base, % IVA, IVA, % RE, RE, amount, under "#,##0.00".
-using Fila_Peu_Impres = std::array<std::string, 6>;
-struct Peu_Impres {
-  std::vector<Fila_Peu_Impres> files;
-  double total = 0;  // euros
-};
-// Rows in the order of the tax codes, as the editor's grid shows them.
-Peu_Impres Dades_Peu(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// For a document whose lines are in the work table. The foot gives a label to each of its rows, also to those that the
+// page has no room for. Raises 13 when P_Posicio_Top is no number.
+Ompliment_Informe Omplir_Informe(const Descripcio_Impressio& informe, const Valor& numero, const std::string& empresa,
+                                 bool valorat);

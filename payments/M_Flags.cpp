@@ -6,6 +6,7 @@
 #include <span>
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/dades/Transaccio.h"
 #include "payments/Decisions_Flag.h"
 
 namespace {
@@ -19,8 +20,8 @@ std::string Nom_Columna(const Nivell_Pagable& nivell, const char* paper) {
 }
 
 std::string Condicio(const Nivell_Pagable& nivell, std::int64_t numero) {
-  return " WHERE " + Nom_Columna(nivell, "NUMALB") + " = " + std::to_string(numero) + " AND " + Nom_Columna(nivell, "EMPRESA") +
-         " = " + Text_SQL(sessio.Empresa_Actual);
+  return " WHERE " + Nom_Columna(nivell, "NUMALB") + " = " + std::to_string(numero) + " AND " +
+         Nom_Columna(nivell, "EMPRESA") + " = " + Text_SQL(sessio.Empresa_Actual);
 }
 
 // The form of that kind, when it is loaded, takes the flag on the document that it shows; its number, or nothing.
@@ -34,8 +35,9 @@ std::optional<std::int64_t> Posar_Al_Formulari(const Document_Pagable& document,
 
 void Posar_A_La_Capcalera(const Document_Pagable& document, bool flag) {
   const Nivell_Pagable& nivell = Nivell_De(document.lletra);
-  sessio.Connexio_Comuna.Execute_Despres("UPDATE " + std::string(nivell.taula) + " SET " + Nom_Columna(nivell, "PAGAMENT") +
-                                         " = " + (flag ? "-1" : "0") + Condicio(nivell, document.numero));
+  sessio.Connexio_Comuna.Execute_Despres("UPDATE " + std::string(nivell.taula) + " SET " +
+                                         Nom_Columna(nivell, "PAGAMENT") + " = " + (flag ? "-1" : "0") +
+                                         Condicio(nivell, document.numero));
 }
 
 void Escriure_Flag(Cadena& cadena, const Document_Pagable& document, bool flag) {
@@ -124,14 +126,14 @@ class Recorregut {
   // The work list as the walk left it, for whoever looks into it afterwards.
   void Desar_Llista() const {
     Connexio& local = sessio.Connexio_Local;
-    local.BeginTrans();
+    Transaccio transaccio(local);
     local.Execute("DELETE * FROM FLAG_PAGAMENTS_TEMP");
     for (std::size_t i = 0; i < feina_.Quants(); ++i) {
       local.Afegir_Fila("FLAG_PAGAMENTS_TEMP", {{"DOCUMENT", Valor(std::string(1, feina_[i].lletra))},
                                                 {"NUMALB", Valor(feina_[i].numero)},
                                                 {"FLAG", Valor(std::int64_t{i < fets_ ? -1 : 0})}});
     }
-    local.CommitTrans();
+    transaccio.Confirmar();
   }
 
  private:
@@ -203,7 +205,7 @@ void Propagar_Flag_Pagaments(Cadena& cadena, const Document_Pagable& document) {
 // Flags that were written before an error stay when nobody else's work depends on them.
 void Propagar_Flag_Pagaments(const std::string& document, std::int64_t numalb) {
   const Document_Pagable inici{document.at(0), numalb};
-  Transaccio transaccio;
+  Transaccio transaccio(sessio.Connexio_Comuna);
   Cadena cadena({inici});
   try {
     Propagar_Flag_Pagaments(cadena, inici);
@@ -216,8 +218,8 @@ void Propagar_Flag_Pagaments(const std::string& document, std::int64_t numalb) {
 
 bool Flag_Pagament(const std::string& document, std::int64_t numalb) {
   const Nivell_Pagable& nivell = Nivell_De(document.at(0));
-  const Recordset rs("SELECT " + Nom_Columna(nivell, "PAGAMENT") + " AS FLAG_PAGAMENT FROM " + std::string(nivell.taula) +
-                         Condicio(nivell, numalb),
+  const Recordset rs("SELECT " + Nom_Columna(nivell, "PAGAMENT") + " AS FLAG_PAGAMENT FROM " +
+                         std::string(nivell.taula) + Condicio(nivell, numalb),
                      sessio.Connexio_Comuna);
   return rs.RecordCount() > 0 && Nul_A_Defecte(rs[0]).Boolea();
 }

@@ -1,12 +1,10 @@
 #include "sales/M_Albarans.h"
 
 #include "core/M_Funcions_Comuns.h"
-#include "documents/M_Linies.h"
+#include "documents/M_Linies_Document.h"
 #include "documents/M_Peu.h"
-#include "masters/M_Articles.h"
-#include "masters/M_IVAs.h"
-#include "payments/M_Pagaments.h"
 #include "sales/M_Comandes.h"
+#include "sales/M_Tipus_Venda.h"
 #include "stock/M_Magatzems.h"
 
 namespace {
@@ -19,61 +17,25 @@ bool Es_Usuari_Sense_Comandes() {
   return sessio.P_Comandes == "X";
 }
 
-// What the line needs to know, asked for at once.
-void Demanar_Dades_Linia(const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
-  if (cap.iva) Demanar_IVA(linia.iva_article);
-  Demanar_Article(linia.article);
+Apunt_Estoc Estoc_D_Albara(const Capcalera_Oberta& cap, const std::string& article, double signe, double unitats) {
+  const Article_Estoc estoc = Preparar_Article_Estoc(article, -signe * unitats);
+  return {.demanar = [estoc] { Demanar_Estoc(estoc); },
+          .fer = [=, numero = cap.numero.Enter()] { Moviment_Albara(signe, estoc, unitats, numero); }};
 }
 
-void Escriure_Linia(Recordset& linies, const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
-  Demanar_Dades_Linia(cap, linia);
-  linies.AddNew();
-  linies.Set("NUMALB_AL", cap.numero);
-  linies.Set("EMPRESA_AL", cap.empresa);
-  linies.Set("LIN_AL", std::int64_t{Seguent_Linia(tipus_albara, cap.numero, cap.empresa)});
-  linies.Set("ARTICLE_AL", linia.article);
-  linies.Set("DESCRIPCIO_AL", linia.descripcio);
-  linies.Set("COST_AL", linia.cost);
-  const Taxes_Linia taxes = Taxes_De_Linia(linia.iva_article, cap.iva, cap.re);
-  linies.Set("PORC_IVA_AL", taxes.porc_iva);
-  linies.Set("PORC_RE_AL", taxes.porc_re);
-  linies.Set("UNITATS_AL", linia.unitats);
-  const Resultat_Linia resultat =
-      Calcular_Linia(linia.cost, linia.unitats, linia.porc_marge, linia.dte_article, taxes.porc_iva, taxes.porc_re,
-                     linia.preu_unitari, linia.pvp, linia.dte, "PREU_UNITARI_PL");
-  linies.Set("PORC_MARGE_AL", resultat.porc_marge);
-  linies.Set("PREU_UNITARI_AL", resultat.preu_unitari);
-  linies.Set("PVP_AL", resultat.pvp);
-  linies.Set("IMPORT_NET_AL", resultat.import_net);
-  linies.Set("IMPORT_BRUT_AL", resultat.import_brut);
-  linies.Set("MARGE_AL", resultat.marge);
-  linies.Set("DTE_AL", resultat.dte);
-  linies.Set("COMANDA_AL", linia.comanda);
-  linies.Set("COMANDA_LIN_AL", std::int64_t{linia.comanda_lin});
+// A free line on a form that has picked an order line keeps its link, and serves it too.
+void Columnes_D_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& fila) {
+  fila.Set("COMANDA_AL", linia.comanda);
+  fila.Set("COMANDA_LIN_AL", std::int64_t{linia.comanda_lin});
   if (linia.comanda != 0) Servir_Linia_Comanda(linia.comanda, cap.empresa, linia.comanda_lin, linia.unitats);
-  Demanar_Grups(tipus_albara, cap.numero, cap.empresa);
-  linies.Update();
-}
-
-void Treure_D_Estoc(const Linia_Entrada& linia, std::int64_t numero) {
-  try {
-    Moviment_Albara(+1, Preparar_Article_Estoc(linia.article), linia.unitats, numero);
-  } catch (const Error_Brollador& error) {
-    Alliberar_Entrada();
-    Mostrar_Error(error);
-    throw Error_Brollador(errors::refusat, "F_Albara", "Error al intentar actualizar movimientos, stock ...");
-  }
 }
 
 // The order that the line served gets its units back, and stands open whatever its count says.
-void Desfer_Servei(const std::string& empresa, const std::string& condicio_linia) {
-  const Recordset rs("SELECT COMANDA_AL, COMANDA_LIN_AL, UNITATS_AL FROM ALBARALIN" + condicio_linia,
-                     sessio.Connexio_Comuna);
-  if (rs.RecordCount() == 0) return;
-  const std::int64_t comanda = Nul_A_Defecte(rs["COMANDA_AL"]).Enter();
+void Desfer_Servei(const std::string& empresa, const Recordset& linia) {
+  const std::int64_t comanda = Nul_A_Defecte(linia["COMANDA_AL"]).Enter();
   if (comanda == 0) return;
-  Servir_Linia_Comanda(comanda, empresa, static_cast<std::int16_t>(Nul_A_Defecte(rs["COMANDA_LIN_AL"]).Enter()),
-                       -Nul_A_Defecte(rs["UNITATS_AL"]).Doble());
+  Servir_Linia_Comanda(comanda, empresa, static_cast<std::int16_t>(Nul_A_Defecte(linia["COMANDA_LIN_AL"]).Enter()),
+                       -Nul_A_Defecte(linia["UNITATS_AL"]).Doble());
   Posar_Estat_Comanda(comanda, empresa, false);
 }
 
@@ -91,35 +53,49 @@ void Desfer_Acceptacio(std::int64_t numero, const std::string& empresa, std::int
                                  Condicio_Document(tipus_pressupost, tipus_pressupost.cap, pressupost, empresa));
 }
 
-// The rates that each article of the note takes today; an article is looked up once.
-class Taxes_Per_Article {
- public:
-  explicit Taxes_Per_Article(const Capcalera_Oberta& cap) : cap_(cap) {}
-  Taxes_Linia De(const std::string& codi) {
-    if (!cap_.iva) return {};
-    const auto [lloc, nou] = taxes_.try_emplace(codi);
-    if (nou) lloc->second = Taxes_De_Linia(Dades_Article(codi)[article::iva], cap_.iva, cap_.re);
-    return lloc->second;
-  }
+void Desfer_Lligam(const Capcalera_Oberta& cap, const Recordset& linia) {
+  if (Es_Usuari_Sense_Comandes())
+    Desfer_Acceptacio(cap.numero.Enter(), cap.empresa, static_cast<std::int16_t>(linia["LIN_AL"].Enter()));
+  else
+    Desfer_Servei(cap.empresa, linia);
+}
 
- private:
-  const Capcalera_Oberta& cap_;
-  std::map<std::string, Taxes_Linia> taxes_;
-};
+// Lines of proposals may point at the numbers of these.
+bool Es_Pot_Moure(const Valor& numero, const std::string& empresa, std::int16_t /*linia*/) {
+  if (!Es_Usuari_Sense_Comandes()) return true;
+  const Recordset rs("SELECT * FROM PRESSUPOSTLIN WHERE COMANDA_PL = " + std::to_string(numero.Enter()) +
+                         " AND EMPRESA_PL = " + Text_SQL(empresa),
+                     sessio.Connexio_Comuna);
+  return rs.RecordCount() == 0;
+}
 
-// Only the rates and the gross amount change: price with tax, net and margin stay as they were typed.
-void Recalcular_Linia(Recordset& rs, const Taxes_Linia& taxes) {
-  const auto numero = [&](const char* camp) { return Nul_A_Defecte(rs[camp]).Doble(); };
-  const Resultat_Linia resultat =
-      Calcular_Linia(numero("COST_AL"), numero("UNITATS_AL"), numero("PORC_MARGE_AL"), 0, taxes.porc_iva, taxes.porc_re,
-                     numero("PREU_UNITARI_AL"), numero("PVP_AL"), numero("DTE_AL"), "PREU_UNITARI_PL");
-  rs.Set("PORC_IVA_AL", taxes.porc_iva);
-  rs.Set("PORC_RE_AL", taxes.porc_re);
-  rs.Set("IMPORT_BRUT_AL", resultat.import_brut);
-  rs.Update();
+std::string SQL_Estat(std::int64_t numero, const std::string& empresa) {
+  return "SELECT ESTAT_AC FROM ALBARACAP" + Condicio_Document(tipus_albara, tipus_albara.cap, numero, empresa);
+}
+
+std::string SQL_Amb_Comanda(std::int64_t numero, const std::string& empresa) {
+  return "SELECT * FROM ALBARALIN" + Condicio_Linies(numero, empresa) + " AND COMANDA_AL <> 0";
+}
+
+void Demanar_Bloquejat(const Valor& numero, const std::string& empresa) {
+  sessio.Connexio_Comuna.Demanar(SQL_Estat(numero.Enter(), empresa));
+  sessio.Connexio_Comuna.Demanar(SQL_Amb_Comanda(numero.Enter(), empresa));
+}
+
+bool Bloquejat(const Valor& numero, const std::string& empresa) {
+  return Albara_Bloquejat(numero.Enter(), empresa);
 }
 
 }  // namespace
+
+// Flag_Comandes_Albara("A", numero) and what follows from it come before a line; Propagar_Flag_Pagaments after it.
+const Passos_Document passos_albara = {.bloquejat = Bloquejat,
+                                       .demanar_bloquejat = Demanar_Bloquejat,
+                                       .demanar = Demanar_Magatzem_Probable,
+                                       .estoc = Estoc_D_Albara,
+                                       .columnes = Columnes_D_Albara,
+                                       .despres_d_esborrar = Desfer_Lligam,
+                                       .es_pot_moure = Es_Pot_Moure};
 
 std::int64_t Crear_Capcalera_Albara() {
   return Crear_Capcalera(tipus_albara).Enter();
@@ -150,74 +126,38 @@ bool Hi_Ha_Descomptes_Albara(std::int64_t numero, const std::string& empresa) {
 }
 
 void Esborrar_Albara(std::int64_t numero, const std::string& empresa) {
-  const std::string pregunta = Missatge("Segur d'esborrar l'Albarà ", "¿Seguro de eliminar el Albarán ",
-                                        "Are you sure to delete Delivery Note ");
-  if (sessio.pantalla->Caixa(pregunta + std::to_string(numero) + " ?", estil::ok_cancel) != Resposta::Ok) return;
-  if (Tenir_Pagaments("A", numero)) {
-    sessio.pantalla->Caixa("No es pot esborrar. Hi ha pagaments!", estil::critic);
-    return;
-  }
-  Esborrar_Document(tipus_albara, numero, empresa);
+  Demanar_Esborrar_Document(tipus_albara, numero, empresa);
 }
 
 bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa) {
-  const Recordset cap(
-      "SELECT ESTAT_AC FROM ALBARACAP" + Condicio_Document(tipus_albara, tipus_albara.cap, numero, empresa),
-      sessio.Connexio_Comuna);
-  if (cap.RecordCount() > 0 && Nul_A_Defecte(cap["ESTAT_AC"]).Boolea()) return true;
-  const Recordset linies("SELECT * FROM ALBARALIN" + Condicio_Linies(numero, empresa) + " AND COMANDA_AL <> 0",
-                         sessio.Connexio_Comuna);
-  return linies.RecordCount() > 0;
+  Transaccio lectures(sessio.Connexio_Comuna);
+  Demanar_Bloquejat(numero, empresa);
+  const Recordset cap(SQL_Estat(numero, empresa), sessio.Connexio_Comuna);
+  const bool bloquejat = (cap.RecordCount() > 0 && Nul_A_Defecte(cap["ESTAT_AC"]).Boolea()) ||
+                         Recordset(SQL_Amb_Comanda(numero, empresa), sessio.Connexio_Comuna).RecordCount() > 0;
+  lectures.Confirmar();
+  return bloquejat;
 }
 
 void Afegir_Linia_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
                          Document_Obert& obert) {
-  // Flag_Comandes_Albara("A", numero) and what follows from it stand here: a line may be refused by its payments.
-  Escriure_Linia(linies, cap, linia);
-  Calcular_Peu(tipus_albara, cap.numero, cap.empresa, obert);
-  Treure_D_Estoc(linia, cap.numero.Enter());
-  // Propagar_Flag_Pagaments("A", numero) goes here.
+  Afegir_Linia(tipus_albara, cap, linia, linies, obert);
 }
 
 bool Esborrar_Linia_Albara(std::int64_t numero, const std::string& empresa, std::int16_t linia,
                            const std::string& article, double unitats) {
-  const std::string pregunta =
-      Missatge("Segur d'esborrar la línia ", "¿Seguro de eliminar la línea ", "Are you sure to delete line ");
-  if (sessio.pantalla->Caixa(pregunta + std::to_string(linia) + " ?", estil::ok_cancel) != Resposta::Ok) return false;
-  Moviment_Albara(-1, Preparar_Article_Estoc(article), unitats, numero);
-  const std::string condicio = Condicio_Linies(numero, empresa) + " AND LIN_AL = " + std::to_string(linia);
-  if (Es_Usuari_Sense_Comandes()) {
-    Desfer_Acceptacio(numero, empresa, linia);
-  } else {
-    Desfer_Servei(empresa, condicio);
-  }
-  sessio.Connexio_Comuna.Execute("DELETE * FROM ALBARALIN" + condicio);
-  // With an order, Propagar_Flag_Pagaments("P", comanda) goes here.
-  return true;
+  return Esborrar_Linia(tipus_albara, {.numero = numero, .empresa = empresa},
+                        {.numero = linia, .article = article, .unitats = unitats});
 }
 
 void Recalcular_Linies_Albara(const Capcalera_Oberta& cap, Document_Obert& obert) {
-  Transaccio transaccio;
-  Recordset rs("SELECT * FROM ALBARALIN" + Condicio_Document(tipus_albara, tipus_albara.lin, cap.numero, cap.empresa),
-               sessio.Connexio_Comuna, Bloqueig::Optimista);
-  Taxes_Per_Article taxes(cap);
-  for (; !rs.Eof(); rs.MoveNext()) Recalcular_Linia(rs, taxes.De(rs["ARTICLE_AL"].Text()));
-  Buidar_Peu(tipus_albara, cap.numero, cap.empresa);
-  Calcular_Peu(tipus_albara, cap.numero, cap.empresa, obert);
-  transaccio.Confirmar();
+  Recalcular_Linies(tipus_albara, cap, obert);
 }
 
 bool Moure_Linia_Albara(std::int64_t numero, const std::string& empresa, std::int16_t linia, bool avall) {
-  if (Es_Usuari_Sense_Comandes()) {
-    // Lines of proposals point at these line numbers.
-    const Recordset rs("SELECT * FROM PRESSUPOSTLIN WHERE COMANDA_PL = " + std::to_string(numero) +
-                           " AND EMPRESA_PL = " + Text_SQL(empresa),
-                       sessio.Connexio_Comuna);
-    if (rs.RecordCount() > 0) return false;
-  }
-  return Intercanviar_Linia(tipus_albara, numero, empresa, linia, avall);
+  return Moure_Linia(tipus_albara, numero, empresa, linia, avall);
 }
 
 bool Esborrar_Albara_Buit(std::int64_t numero, const std::string& empresa) {
-  return Esborrar_Document_Buit(tipus_albara, numero, empresa);
+  return Esborrar_Document_Buit(tipus_albara, numero, empresa) == Buit::Esborrat;
 }

@@ -4,6 +4,9 @@
 
 #include "documents/Documents.h"
 
+// What delivery notes do of their own around their lines.
+extern const Passos_Document passos_albara;
+
 std::int64_t Crear_Capcalera_Albara();
 std::int64_t Seguent_Numero_Albara(const std::string& empresa);
 std::int16_t Seguent_Linia_Albara(std::int64_t numero, const std::string& empresa);
@@ -18,10 +21,13 @@ void Esborrar_Albara(std::int64_t numero, const std::string& empresa);
 bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa);
 
 // Writes a line on the form's line recordset: row, link and served units of the order, foot, stock and journal.
-// Call it inside a transaction. Raises 1010 when the stock could not be posted (already shown), 6, 13 or the engine's.
+// Call it inside a transaction that has not written yet: it may show the warning of the minimum before it writes.
+// Raises 1010 when the stock could not be posted (already shown), 6, 13 or the engine's.
 void Afegir_Linia_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
                          Document_Obert& obert);
-// Asks, gives the stock back, undoes the links and deletes the line. False when the user said no.
+// Asks, deletes the line, undoes its links and gives the stock back. False when the user said no. Raises 1010 with "El
+// document ja no existeix." when another terminal deleted the note, 80040E38 when the line is gone or another one; then
+// nothing is written. Call it inside a transaction that has not written yet.
 bool Esborrar_Linia_Albara(std::int64_t numero, const std::string& empresa, std::int16_t linia,
                            const std::string& article, double unitats);
 // New rates on all lines after a change of customer; the foot is rebuilt. In a transaction of its own unless one is

@@ -6,6 +6,7 @@
 
 #include "core/dades/Error_Brollador.h"
 #include "core/dades/Recordset.h"
+#include "core/dades/Transaccio.h"
 #include "schema/Fitxers_Encastats.h"
 #include "schema/Textos.h"
 
@@ -88,17 +89,6 @@ void Executar_Fitxer(Connexio& connexio, std::string_view text) {
     if (!linia.ends_with(';')) continue;
     connexio.Execute(sentencia);
     sentencia.clear();
-  }
-}
-
-void En_Transaccio(Connexio& connexio, const std::function<void()>& feina) {
-  connexio.BeginTrans();
-  try {
-    feina();
-    connexio.CommitTrans();
-  } catch (...) {
-    connexio.RollbackTrans();
-    throw;
   }
 }
 

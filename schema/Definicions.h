@@ -4,7 +4,6 @@
 // has the digest of what it was made from, and whoever opens it makes it anew when that is not the program's own.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,8 +12,6 @@
 
 // Statements ended by ';' at the end of a line; lines of comment begin with --.
 void Executar_Fitxer(Connexio& connexio, std::string_view text);
-// All of the work on one connection, kept or undone as one.
-void En_Transaccio(Connexio& connexio, const std::function<void()>& feina);
 
 // ---- The local database
 

@@ -10,6 +10,7 @@
 #include "masters/M_Articles.h"
 #include "masters/M_Clients.h"
 #include "sales/M_Albarans.h"
+#include "sales/M_Tipus_Venda.h"
 #include "schema/Paraules_Demostracio.h"
 #include "stock/M_Magatzems.h"
 
@@ -47,7 +48,7 @@ std::string Codi(const char* prefix, int numero, std::size_t xifres) {
 // Nobody sits at the screen while the demonstration is made: every question is answered yes.
 class Pantalla_Muda : public Pantalla {
  public:
-  Resposta Caixa(const std::string& text, int estil, const std::string&) override {
+  Resposta Obrir_Caixa(const std::string& text, int estil, const std::string&) override {
     if ((estil & 0x0F) == estil::simple && text.find("sota mínims") == std::string::npos) {
       throw Error_Brollador(errors::general, "Demostracio", text);
     }
@@ -58,7 +59,7 @@ class Pantalla_Muda : public Pantalla {
   void Processar_Events() override {}
   void Bloquejar_Entrada() override {}
   void Alliberar_Entrada() override {}
-  std::string Triar_Empresa(const std::string& actual, int) override { return actual; }
+  std::string Obrir_Tria_Empresa(const std::string& actual, int) override { return actual; }
   void Menu_Habilitat(std::string_view, bool) override {}
   void Menu_Visible(std::string_view, bool) override {}
   void Menu_Marcat(std::string_view, bool) override {}
@@ -94,7 +95,6 @@ class Sessio_De_Demostracio {
     sessio.P_Albarans = sessio.P_Comandes = "M";
   }
   ~Sessio_De_Demostracio() {
-    Desfer_Transaccio();
     Deixar_Anar_Rellotge();
     sessio.Connexio_Comuna.Close();
     sessio.pantalla = nullptr;
@@ -248,7 +248,8 @@ void Fer_Articles(Sort& sort) {
 // The goods come in at the beginning, more than what will go out of the warehouse that may not go below zero.
 void Entrar_Existencies(Sort& sort) {
   for (int i = 1; i <= articles; ++i) {
-    Moviment_Compra(+1, Preparar_Article_Estoc(Codi("", i, 10)), 150 + sort.Fins(300), "1");
+    const int unitats = 150 + sort.Fins(300);
+    Moviment_Compra(+1, Preparar_Article_Estoc(Codi("", i, 10), unitats), unitats, "1");
   }
 }
 
@@ -321,7 +322,7 @@ void Fer_Albarans(Sort& sort) {
 void Fer_Any(const Opcions_Installacio& opcions) {
   const Sessio_De_Demostracio feina(opcions);
   Sort sort;
-  Transaccio transaccio;
+  Transaccio transaccio(sessio.Connexio_Comuna);
   Fer_Empresa();
   Fer_Taules_De_Referencia();
   Fer_Clients(sort);

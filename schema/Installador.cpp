@@ -9,6 +9,7 @@
 
 #include "core/dades/Error_Brollador.h"
 #include "core/dades/Recordset.h"
+#include "core/dades/Transaccio.h"
 #include "schema/Definicions.h"
 
 namespace fs = std::filesystem;

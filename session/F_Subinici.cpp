@@ -37,6 +37,7 @@ void F_Subinici::Activar() {
 void F_Subinici::Iniciar() {
   if (!Iniciar_Sessio(ui_->T_USUARI->text().toStdString(), ui_->T_CONSTRASENYA->text().toStdString()))
     return Rebutjar();
+  ha_entrat_ = true;
   Descarregar_Formulari(Nom());
   Obrir_Sessio();
 }

@@ -15,9 +15,11 @@ class F_Subinici : public Formulari {
   F_Subinici();
   ~F_Subinici() override;
   void Activar() override;
+  bool Pot_Tancar() const override { return ha_entrat_; }  // nobody could log in without it
 
  private:
   void Iniciar();
   void Rebutjar();
+  bool ha_entrat_ = false;
   std::unique_ptr<Ui::F_Subinici> ui_;
 };

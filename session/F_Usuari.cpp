@@ -29,5 +29,7 @@ void F_Usuari::Abans_De_Mostrar() {
 void F_Usuari::Mostrar_Altres() {
   sessio.Codi_Usuari = rs_["CODI_USU"].Text();
   const Valor idioma = rs_["IDIOMA_USU"];
+  if (idioma == idioma_mostrat_) return;
+  idioma_mostrat_ = idioma;
   ui_->TXT_DESCRIPTION->setText(idioma.Es_Nul() ? QString() : QString::fromStdString(Nom_Idioma(idioma.Enter())));
 }

@@ -21,5 +21,6 @@ class F_Usuari : public Fitxa {
   void Mostrar_Altres() override;
 
  private:
+  Valor idioma_mostrat_;
   std::unique_ptr<Ui::F_Usuari> ui_;
 };

@@ -108,7 +108,7 @@ void Esborrar_Empresa(const std::string& empresa, const std::string& rao_social)
                            estil::simple);
     return;
   }
-  sessio.Connexio_Comuna.Execute("DELETE * FROM EMPRESES WHERE NIF_EMP = " + Text_SQL(empresa));
+  sessio.Connexio_Comuna.Execute("DELETE * FROM EMPRESES WHERE NIF_EMP = " + Codi_SQL(empresa));
 }
 
 bool Empresa_En_Us(const std::string& empresa) {
@@ -122,5 +122,5 @@ std::string SQL_Empreses() {
 }
 
 std::string SQL_Empresa(const std::string& empresa) {
-  return "SELECT * FROM EMPRESES WHERE NIF_EMP = " + Text_SQL(empresa);
+  return "SELECT * FROM EMPRESES WHERE NIF_EMP = " + Codi_SQL(empresa);
 }

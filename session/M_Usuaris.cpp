@@ -160,7 +160,7 @@ void Esborrar_Usuari(const std::string& codi, const std::string& descripcio) {
                            estil::simple);
     return;
   }
-  sessio.Connexio_Comuna.Execute("DELETE * FROM USUARIS WHERE CODI_USU = " + Text_SQL(codi));
+  sessio.Connexio_Comuna.Execute("DELETE * FROM USUARIS WHERE CODI_USU = " + Codi_SQL(codi));
 }
 
 std::string SQL_Usuaris() {
@@ -172,7 +172,7 @@ std::string SQL_Usuaris() {
 std::string SQL_Usuari(const std::string& codi) {
   std::string columnes = "CODI_USU, DESCRIPCIO_USU, CLAU_USU, ACTIU_USU, IDIOMA_USU";
   for (const Dret& dret : drets) columnes += std::string(", ") + dret.columna;
-  return "SELECT " + columnes + " FROM USUARIS WHERE CODI_USU = " + Text_SQL(codi);
+  return "SELECT " + columnes + " FROM USUARIS WHERE CODI_USU = " + Codi_SQL(codi);
 }
 
 bool Es_Actiu_Valid(const std::string& valor) {

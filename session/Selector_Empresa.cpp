@@ -1,12 +1,12 @@
 #include "session/Selector_Empresa.h"
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/formularis/Aparenca.h"
 
 namespace {
 QString Paraula(const char* catala, const char* castella, const char* angles) {
@@ -18,17 +18,11 @@ Selector_Empresa::Selector_Empresa(const std::string& actual)
     : empreses_(Empreses_Actives()), llista_(new QTableWidget(static_cast<int>(empreses_.size()), 2, this)) {
   setObjectName(QStringLiteral("F_Selector_Empresa"));
   setWindowTitle(Paraula("Tria una empresa", "Elija una empresa", "Choose a company"));
-  resize(520, 320);
+  resize(620, 360);
   llista_->setObjectName(QStringLiteral("G_Empreses"));
   llista_->setHorizontalHeaderLabels({Paraula("Codi", "Código", "Code"), Paraula("Empresa", "Empresa", "Company")});
-  llista_->horizontalHeader()->setStretchLastSection(true);
-  llista_->horizontalHeader()->setHighlightSections(false);
-  llista_->verticalHeader()->hide();
+  Vestir_Taula(*llista_);
   llista_->setColumnWidth(0, 130);
-  llista_->setSelectionBehavior(QTableWidget::SelectRows);
-  llista_->setSelectionMode(QTableWidget::SingleSelection);
-  llista_->setEditTriggers(QTableWidget::NoEditTriggers);
-  llista_->setTabKeyNavigation(false);
   int fila = 0;
   for (const auto& empresa : empreses_) {
     llista_->setItem(fila, 0, new QTableWidgetItem(QString::fromStdString(empresa.nif)));
@@ -37,10 +31,10 @@ Selector_Empresa::Selector_Empresa(const std::string& actual)
     ++fila;
   }
   auto* botons = new QDialogButtonBox(this);
-  QPushButton* accepta = botons->addButton(Paraula("D'acord", "Aceptar", "OK"), QDialogButtonBox::AcceptRole);
+  QPushButton* accepta = botons->addButton(Paraula("D'&acord", "&Aceptar", "&OK"), QDialogButtonBox::AcceptRole);
   accepta->setDefault(true);
   accepta->setEnabled(!empreses_.empty());
-  botons->addButton(Paraula("Cancel·lar", "Cancelar", "Cancel"), QDialogButtonBox::RejectRole);
+  botons->addButton(Paraula("&Cancel·lar", "&Cancelar", "&Cancel"), QDialogButtonBox::RejectRole);
   auto* columna = new QVBoxLayout(this);
   columna->addWidget(llista_);
   columna->addWidget(botons);

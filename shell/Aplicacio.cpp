@@ -25,6 +25,7 @@
 #include "shell/F_Help.h"
 #include "shell/F_Principal.h"
 #include "shell/Instancia_Unica.h"
+#include "shell/M_Tipus.h"
 #include "shell/Taules.h"
 
 namespace {
@@ -47,7 +48,7 @@ void Posar_Serveis() {
 void Mostrar_Finestres() {
   auto* principal = new F_Principal;
   principal->setWindowTitle(QString::fromLatin1(nom_i_versio));
-  principal->show();
+  principal->Mostrar();
   Habilitar_Menus(false);
   Mostrar_Formulari(QStringLiteral("F_SUBINICI"));
   Traduir_Formulari(QStringLiteral("F_PRINCIPAL"));
@@ -73,12 +74,13 @@ bool Aplicacio::notify(QObject* receptor, QEvent* event) {
 }
 
 void Registrar_Formularis() {
+  Registrar_Tipus_De_Document();
   Registrar_Formulari(QStringLiteral("F_SUBINICI"), [] { return new F_Subinici; });
   Registrar_Formulari(QStringLiteral("F_CERCA"), [] { return new F_Cerca; });
   Registrar_Formulari(QStringLiteral("F_HELP"), [] { return new F_Help; });
-  Registrar_Formulari(QStringLiteral("F_USUARISM"), [] { return new F_UsuarisM; });
+  Registrar_Formulari(QStringLiteral("F_USUARISM"), [] { return new Llista_Descrita(Llista_Usuaris()); });
   Registrar_Formulari(QStringLiteral("F_USUARI"), [] { return new F_Usuari; });
-  Registrar_Formulari(QStringLiteral("F_EMPRESESM"), [] { return new F_EmpresesM; });
+  Registrar_Formulari(QStringLiteral("F_EMPRESESM"), [] { return new Llista_Descrita(Llista_Empreses()); });
   Registrar_Formulari(QStringLiteral("F_EMPRESA"), [] { return new F_Empresa; });
   Registrar_Formularis_Mestres();
   Registrar_Formularis_Referencia();
@@ -98,11 +100,12 @@ bool Inici_Aplicacio() {
   } catch (const Error_Brollador& error) {
     Punter_Normal();
     pantalla.Caixa(Text_Inici_Fallit(error), estil::simple);
-    return false;
+    return !Formularis_Carregats().empty();  // with a form to work in, the program goes on
   }
 }
 
 void Acabar_Aplicacio() {
+  F_Principal::Unica()->Recordar_Estat();
   Descarregar_Tots();
   Tancar_Recordsets_Informe();
   Tancar_Connexions();

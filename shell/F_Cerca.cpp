@@ -37,11 +37,26 @@ Formulari* Llista_Cercada() {
   return oberta ? llista : nullptr;
 }
 
+// What is in edit in the list is written before its rows change; refused, it stays and nothing else is done.
+bool Desar_Fila_De(Formulari& llista) {
+  Graella* graella = llista.Graella_Llista();
+  return graella == nullptr || graella->Desar_Fila();
+}
+
 // In the corner, where the least of a list is hidden.
 void Apartar(QMdiSubWindow* finestra) {
   constexpr int marge = 12;
-  const QSize lloc = finestra->parentWidget()->size() - finestra->size();
+  const QSize lloc = finestra->mdiArea()->viewport()->size() - finestra->size();
   finestra->move(std::max(0, lloc.width() - marge), std::max(0, lloc.height() - marge));
+}
+
+// When this window has gone, and the list is the one in front.
+void Tornar_El_Focus(Graella* graella) {
+  const auto tornar = [graella] {
+    const Formulari* davant = F_Principal::Unica() == nullptr ? nullptr : F_Principal::Unica()->Del_Davant();
+    if (davant != nullptr && davant->isAncestorOf(graella)) graella->setFocus();
+  };
+  QMetaObject::invokeMethod(graella, tornar, Qt::QueuedConnection);
 }
 
 void Mostrar_A(std::optional<QPoint> lloc) {
@@ -82,7 +97,7 @@ void F_Cerca::Omplir_Camps() {
 void F_Cerca::Filtrar() {
   Posar_Focus(ui_->TXT_CERCA);
   Formulari* llista = Llista_Cercada();
-  if (llista == nullptr) return;
+  if (llista == nullptr || !Desar_Fila_De(*llista)) return;
   sessio.Recordset_Cerca->Filter(ui_->CMB_CAMPS->currentText().toStdString() + " LIKE " +
                                  Text_SQL('%' + ui_->TXT_CERCA->text().toStdString() + '%'));
   if (Graella* graella = llista->Graella_Llista()) graella->Refrescar();
@@ -91,22 +106,24 @@ void F_Cerca::Filtrar() {
 // All the rows again, on the one where the user was.
 void F_Cerca::Descarregar() {
   Formulari* llista = Llista_Cercada();
-  if (llista != nullptr) {
+  if (llista != nullptr && Desar_Fila_De(*llista)) {
     const Fila_Recordada fila(*sessio.Recordset_Cerca);
     sessio.Recordset_Cerca->Filter("");
     sessio.Recordset_Cerca->Requery();
     fila.Tornar_Hi();
-    if (Graella* graella = llista->Graella_Llista()) graella->Refrescar();
+    if (Graella* graella = llista->Graella_Llista()) {
+      graella->Refrescar();
+      Tornar_El_Focus(graella);
+    }
   }
   sessio.Formulari_Actiu.clear();
   sessio.Recordset_Cerca = nullptr;
 }
 
-// Enter searches from the text and from the field alike; Esc goes back to the list.
+// Enter searches from the text and from the field alike.
 void F_Cerca::keyPressEvent(QKeyEvent* event) {
   const bool entra = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (entra && qobject_cast<QPushButton*>(focusWidget()) == nullptr) return ui_->B_Cerca->click();
-  if (event->key() == Qt::Key_Escape) return Descarregar_Formulari(Nom());
   Formulari::keyPressEvent(event);
 }
 
@@ -120,6 +137,7 @@ void Obrir_Cerca(Formulari* llista, std::optional<QPoint> lloc) {
   if (llista == nullptr || !Es_Pot_Cercar(llista->Nom())) return;
   Recordset* rs = llista->Recordset_Llista();
   if (rs == nullptr || !rs->State() || rs->RecordCount() == 0) return;
+  if (!Desar_Fila_De(*llista)) return;
   // What another list was filtered by goes before this one is searched.
   if (Llista_Cercada() != llista) Descarregar_Formulari(nom_cerca);
   sessio.Recordset_Cerca = rs;

@@ -16,9 +16,6 @@ class F_Help : public Formulari {
   ~F_Help() override;
   void Activar() override;
 
- protected:
-  void keyPressEvent(QKeyEvent* event) override;  // Esc closes
-
  private:
   std::unique_ptr<Ui::F_Help> ui_;
 };

@@ -181,10 +181,10 @@ const std::vector<Fila_Drets>& Files() {
       {u"F_PAGDOC", nullptr, Editor, {u"G_PagDoc", u"B_EsborrarPag"}},
 
       // The editor of users asks for M. Nobody touches what makes the administrator one.
-      {u"F_USUARI", &S::P_Usuaris, Llista, {u"TXT_DESCRIPCIO_USU", u"TXT_CLAU_USU", u"CMB_IDIOMA_USU"}},
+      {u"F_USUARI", &S::P_Usuaris, Editor_Amb_M, {u"TXT_DESCRIPCIO_USU", u"TXT_CLAU_USU", u"CMB_IDIOMA_USU"}},
       {u"F_USUARI",
        &S::P_Usuaris,
-       Llista,
+       Editor_Amb_M,
        {u"TXT_CODI_USU", u"TXT_ACTIU_USU", u"TXT_P_CLIENTS", u"TXT_P_PROVEIDORS", u"TXT_P_ARTICLES", u"TXT_P_USUARIS",
         u"TXT_P_CP", u"TXT_P_VENCIMENTS", u"TXT_P_PRESSUPOSTOS", u"TXT_P_COMANDES", u"TXT_P_ALBARANS",
         u"TXT_P_FACTURES"},

@@ -13,7 +13,11 @@
 class Connexio;
 class QRadioButton;
 
-// A date that may be empty: typed as DD/MM/YYYY or picked from a calendar. DT_*
+// A day as people type it: 1/9/2026, 1-9-26, 1.9.2026, 010926, 01092026. A year of two digits is of this century, or of
+// the last one when it lies more than 30 years ahead. None when it is no day of the calendar.
+std::optional<Data_Hora> Dia_Escrit(const QString& text);
+
+// A date that may be empty: typed, or picked from a calendar (the arrow, Alt+Down or F4). DT_*
 class Selector_Data : public QWidget {
   Q_OBJECT
  public:
@@ -26,8 +30,13 @@ class Selector_Data : public QWidget {
  Q_SIGNALS:
   void Canviada();  // the user changed the date and left the field
 
+ protected:
+  bool eventFilter(QObject* objecte, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
  private:
   void Deixar();
+  void Indicar_Forma();
   void Obrir_Calendari();
   QLineEdit* camp_;
   QString desada_;
@@ -49,6 +58,8 @@ class Combo_Codi : public QComboBox {
   void Posar(const std::string& codi, const std::string& nom);  // also a name that the list does not hold
   void Posar(const std::string& codi);                          // the name is that of the list, or the code itself
   void Triar(const std::string& codi, const std::string& nom);  // the same, as the user's choice
+  // A text that is no entry chooses none, where otherwise it gives way to the choice.
+  void Text_Estrany_Es_Cap() { text_estrany_es_cap_ = true; }
 
  Q_SIGNALS:
   void Triat();  // the user chose an entry, or none
@@ -58,6 +69,7 @@ class Combo_Codi : public QComboBox {
   void Deixar();
   QString codi_;
   QString nom_;
+  bool text_estrany_es_cap_ = false;
 };
 
 // An option set: radio buttons by index, in the order of the form. OPT

@@ -2,9 +2,14 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QToolTip>
 
 #include "core/controls/Controls.h"
 #include "core/controls/Model_Recordset.h"
@@ -22,16 +27,74 @@ QRect Quadre(const QRect& cella) {
   return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, mida, cella);
 }
 
+// The combo of a cell: what is chosen in its list is taken at once, what the arrows pass over is not.
+class Combo_De_Cella : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+  bool De_La_Llista() const { return de_la_llista_; }
+  void showPopup() override {
+    de_la_llista_ = true;
+    QComboBox::showPopup();
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    de_la_llista_ = false;
+    QComboBox::keyPressEvent(event);
+  }
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+ private:
+  bool de_la_llista_ = false;
+};
+
+// The list of a combo whose entries show their codes too.
+QTableView* Llista_De_Dues_Columnes() {
+  auto* llista = new QTableView;
+  llista->verticalHeader()->hide();
+  llista->horizontalHeader()->setStretchLastSection(true);
+  llista->horizontalHeader()->setHighlightSections(false);
+  llista->setSelectionBehavior(QAbstractItemView::SelectRows);
+  llista->setSelectionMode(QAbstractItemView::SingleSelection);
+  llista->setShowGrid(false);
+  return llista;
+}
+
 }  // namespace
+
+// What is chosen in the open list is taken, and the cell closes.
+QWidget* Delegat_Graella::Nou_Combo(QWidget* pare, const Desplegable_Graella& desplegable) const {
+  constexpr int amplada_codi = 70;
+  constexpr int amplada_llista = 270;
+  auto* combo = new Combo_De_Cella(pare);
+  auto* files = new QStandardItemModel(0, 2, combo);
+  files->setHorizontalHeaderLabels(desplegable.titols);
+  files->appendRow({new QStandardItem, new QStandardItem});
+  for (const Opcio_Graella& que : desplegable.opcions) {
+    auto* text = new QStandardItem(que.text);
+    text->setData(que.codi, Qt::UserRole);
+    files->appendRow({new QStandardItem(que.codi), text});
+  }
+  combo->setModel(files);
+  combo->setModelColumn(1);
+  if (!desplegable.titols.isEmpty()) {
+    auto* llista = Llista_De_Dues_Columnes();
+    combo->setView(llista);
+    llista->setColumnWidth(0, amplada_codi);
+    llista->setMinimumWidth(amplada_llista);
+  }
+  auto* jo = const_cast<Delegat_Graella*>(this);
+  connect(combo, &QComboBox::activated, jo, [jo, combo] {
+    if (!combo->De_La_Llista()) return;
+    Q_EMIT jo->commitData(combo);
+    Q_EMIT jo->closeEditor(combo);
+  });
+  return combo;
+}
 
 QWidget* Delegat_Graella::createEditor(QWidget* pare, const QStyleOptionViewItem& opcio,
                                        const QModelIndex& index) const {
-  if (const auto* opcions = model_.Opcions(index.column())) {
-    auto* combo = new QComboBox(pare);
-    combo->addItem(QString());
-    for (const Opcio_Graella& que : *opcions) combo->addItem(que.text, que.codi);
-    return combo;
-  }
+  if (const auto* desplegable = model_.Desplegable(index.column())) return Nou_Combo(pare, *desplegable);
   if (Es_De_Nombre(model_.Tipus(index.column()))) return new Camp_Numeric(pare);
   return QStyledItemDelegate::createEditor(pare, opcio, index);
 }
@@ -88,5 +151,30 @@ bool Delegat_Graella::editorEvent(QEvent* event, QAbstractItemModel* model, cons
   if (!tecla && !clic) return false;
   const Qt::CheckState nou = estat.toInt() == Qt::Checked ? Qt::Unchecked : Qt::Checked;
   Formulari::Guardar_Event([&] { model->setData(index, nou, Qt::CheckStateRole); });
+  return true;
+}
+
+// Ctrl+Enter takes what was typed and hands its row over.
+bool Delegat_Graella::eventFilter(QObject* editor, QEvent* event) {
+  const auto* tecla = event->type() == QEvent::KeyPress ? static_cast<const QKeyEvent*>(event) : nullptr;
+  const bool lliura = tecla != nullptr && (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter) &&
+                      (tecla->modifiers() & Qt::ControlModifier) != 0;
+  if (!lliura) return QStyledItemDelegate::eventFilter(editor, event);
+  auto* camp = qobject_cast<QWidget*>(editor);
+  Q_EMIT commitData(camp);
+  Q_EMIT closeEditor(camp);
+  QCoreApplication::postEvent(parent(), tecla->clone());
+  return true;
+}
+
+bool Delegat_Graella::helpEvent(QHelpEvent* event, QAbstractItemView* graella, const QStyleOptionViewItem& opcio,
+                                const QModelIndex& index) {
+  if (event->type() != QEvent::ToolTip || !index.isValid())
+    return QStyledItemDelegate::helpEvent(event, graella, opcio, index);
+  const QString text = model_.Text(index.row(), index.column());
+  const QRect vist = graella->visualRect(index) & graella->viewport()->rect();
+  const bool es_veu_sencer = text == index.data().toString() && sizeHint(opcio, index).width() <= vist.width();
+  const bool casella = model_.Columnes()[static_cast<std::size_t>(index.column())].casella;
+  QToolTip::showText(event->globalPos(), es_veu_sencer || casella ? QString() : text, graella->viewport());
   return true;
 }

@@ -13,14 +13,19 @@ class Delegat_Graella : public QStyledItemDelegate {
   QWidget* createEditor(QWidget* pare, const QStyleOptionViewItem& opcio, const QModelIndex& index) const override;
   void setEditorData(QWidget* editor, const QModelIndex& index) const override;
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+  // The whole text of a cell that shows a part of it.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* graella, const QStyleOptionViewItem& opcio,
+                 const QModelIndex& index) override;
   void paint(QPainter* pintor, const QStyleOptionViewItem& opcio, const QModelIndex& index) const override;
 
  protected:
   void initStyleOption(QStyleOptionViewItem* opcio, const QModelIndex& index) const override;
+  bool eventFilter(QObject* editor, QEvent* event) override;
   bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& opcio,
                    const QModelIndex& index) override;
 
  private:
+  QWidget* Nou_Combo(QWidget* pare, const struct Desplegable_Graella& desplegable) const;
   bool Per_Estrenar(const QModelIndex& index) const;  // the empty row at the end
   const Model_Recordset& model_;
 };

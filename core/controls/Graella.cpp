@@ -2,14 +2,16 @@
 
 #include <QApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QTimer>
+#include <QLocale>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <algorithm>
 
-#include "core/controls/Camps.h"
+#include "core/M_Funcions_Comuns.h"
 #include "core/controls/Delegat_Graella.h"
+#include "core/controls/Files.h"
 #include "core/controls/Model_Recordset.h"
 #include "core/dades/Dialecte.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Formulari.h"
 #include "core/formularis/Memoria_Pantalles.h"
 
@@ -17,6 +19,21 @@ namespace {
 
 constexpr int twips_per_pixel = 15;
 constexpr int alcada_fila = 24;
+
+struct Ordre_De_Files {
+  QString camp;  // empty: none
+  Qt::SortOrder sentit = Qt::AscendingOrder;
+};
+
+// What a statement is ordered by in the first place.
+Ordre_De_Files Ordre_De(const std::string& sentencia) {
+  constexpr QStringView mots = u"ORDER BY";
+  const QString ordre = QString::fromStdString(sentencia.substr(Sense_Ordre(sentencia).size())).simplified();
+  if (!ordre.startsWith(mots, Qt::CaseInsensitive)) return {};
+  const QStringList primer = ordre.mid(mots.size()).section(u',', 0, 0).split(u' ', Qt::SkipEmptyParts);
+  const bool descendent = primer.value(1).compare(QLatin1String("DESC"), Qt::CaseInsensitive) == 0;
+  return {primer.value(0).section(u'.', -1), descendent ? Qt::DescendingOrder : Qt::AscendingOrder};
+}
 
 }  // namespace
 
@@ -40,28 +57,28 @@ Graella::Graella(QWidget* pare) : QTableView(pare), model_(new Model_Recordset(t
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionsClickable(true);
   horizontalHeader()->setMinimumSectionSize(24);
+  horizontalHeader()->setSortIndicatorShown(true);
+  horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int columna, int /*abans*/, int amplada) { Canviada_D_Amplada(columna, amplada); });
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int columna) {
     const char* camp = model_->Columnes()[static_cast<std::size_t>(columna)].camp;
     Formulari::Guardar_Event([&] { Ordenar_Per(QString::fromUtf8(camp)); });
+    Mostrar_Ordre();
   });
   connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& index) { Q_EMIT Doble_Clic(index.row()); });
 }
 
 void Graella::Columnes(const std::vector<Columna_Graella>& columnes) {
   model_->Columnes(columnes);
+  amplades_.assign(columnes.size(), 0);
   int columna = 0;
   for (const auto& que : columnes) {
     setColumnHidden(columna, que.amplada == 0);
-    if (que.amplada > 0) setColumnWidth(columna, Amplada_Propia(columna));
+    if (que.amplada > 0) amplades_[static_cast<std::size_t>(columna)] = Amplada_Propia(columna);
     ++columna;
   }
-}
-
-// What the column asks for, or what its title does.
-int Graella::Amplada_Propia(int columna) const {
-  constexpr int voltant = 12;
-  const int titol = fontMetrics().horizontalAdvance(model_->Titol(columna)) + voltant;
-  return std::max(model_->Columnes()[static_cast<std::size_t>(columna)].amplada / twips_per_pixel, titol);
+  Omplir_Amplada();
 }
 
 void Graella::Lligar(Recordset* rs) {
@@ -70,6 +87,8 @@ void Graella::Lligar(Recordset* rs) {
     if (model_->Columnes()[static_cast<std::size_t>(columna)].opcional)
       setColumnHidden(columna, !model_->Hi_Es(columna));
   }
+  Omplir_Amplada();
+  Mostrar_Ordre();
   Refrescar();
 }
 
@@ -78,6 +97,7 @@ void Graella::Refrescar() {
   const std::int64_t posicio = rs != nullptr && rs->State() ? rs->AbsolutePosition() : 0;
   model_->Refrescar();
   if (posicio > 0) Anar_A_Fila(posicio - 1);
+  Q_EMIT Compte_Canviat();
 }
 
 void Graella::Estil_De_Fila(std::function<QString(std::int64_t fila)> estil) {
@@ -92,12 +112,24 @@ std::int64_t Graella::Fila_Actual() const {
 }
 
 void Graella::Anar_A_Fila(std::int64_t fila) {
-  int columna = 0;
-  while (columna < model_->columnCount() && isColumnHidden(columna)) ++columna;
-  const QModelIndex index = model_->index(static_cast<int>(fila), columna);
+  const QModelIndex index = model_->index(static_cast<int>(fila), Columna_Visible(false));
   if (!index.isValid()) return;
-  setCurrentIndex(index);
+  if (multiple_) {
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+  } else {
+    setCurrentIndex(index);
+  }
   scrollTo(index);
+}
+
+bool Graella::Anar_Al_Valor(const QString& camp, const QString& text) {
+  const int columna = Columna_De_Camp(camp);
+  for (int fila = 0; columna >= 0 && fila < model_->Files(); ++fila) {
+    if (model_->Text(fila, columna).compare(text, Qt::CaseInsensitive) != 0) continue;
+    Anar_A_Fila(fila);
+    return true;
+  }
+  return false;
 }
 
 int Graella::Columna_De_Camp(const QString& camp) const {
@@ -107,6 +139,10 @@ int Graella::Columna_De_Camp(const QString& camp) const {
 QString Graella::Text_Cella(std::int64_t fila, const QString& camp) const {
   const int columna = Columna_De_Camp(camp);
   return columna < 0 || fila < 0 || fila >= Files() ? QString() : model_->Text(static_cast<int>(fila), columna);
+}
+
+QString Graella::Text_Mostrat(std::int64_t fila, int columna) const {
+  return model_->Text_Mostrat(static_cast<int>(fila), columna);
 }
 
 QString Graella::Estil(std::int64_t fila) const {
@@ -121,139 +157,88 @@ Valor Graella::Valor_Actual(const char* camp) const {
 // A column of its own width stays so under another title.
 void Graella::Titol_Columna(int index, const QString& titol) {
   const bool visible = index >= 0 && index < model_->columnCount() && !isColumnHidden(index);
-  const bool propia = visible && columnWidth(index) == Amplada_Propia(index);
+  const bool propia = visible && Amplada_Donada(index) == Amplada_Propia(index);
   model_->Titol(index, titol);
-  if (propia) setColumnWidth(index, Amplada_Propia(index));
+  if (propia) Canviada_D_Amplada(index, Amplada_Propia(index));
 }
 QString Graella::Titol_Columna(int index) const {
   return model_->Titol(index);
 }
 
+// ---- Order ------------------------------------------------------------------------------------------------------
+
 void Graella::Ordenar_Per(const QString& camp) {
   Recordset* rs = model_->Lligat();
   if (rs == nullptr || !rs->State() || !Desar_Fila()) return;
+  const Fila_Recordada fila(*rs);
   rs->Reopen(Sense_Ordre(rs->Source()) + " ORDER BY " + camp.toStdString());
+  fila.Tornar_Hi();
   Lligar(rs);
 }
 
-// ---- Where the user is ------------------------------------------------------------------------------------------
-
-// The recordset stands where the user does, unless a row of it is in edit.
-void Graella::currentChanged(const QModelIndex& actual, const QModelIndex& anterior) {
-  QTableView::currentChanged(actual, anterior);
-  const int fila = model_->Fila_En_Edicio();
-  if (fila >= 0 && actual.isValid() && actual.row() != fila) return Deixar_Fila(fila);
-  Recordset* rs = model_->Lligat();
-  if (rs == nullptr || !rs->State() || !actual.isValid() || rs->EditMode() != Edicio::Cap) return;
-  if (actual.row() < rs->RecordCount()) rs->AbsolutePosition(actual.row() + 1);
+void Graella::Permetre_Ordre(bool permes) {
+  horizontalHeader()->setSectionsClickable(permes);
+  horizontalHeader()->setSortIndicatorShown(permes);
 }
 
-void Graella::keyPressEvent(QKeyEvent* event) {
-  const bool entra = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (event->key() == Qt::Key_Escape && En_Edicio()) return Descartar_Fila();
-  if (entra && state() == EditingState) return;  // the editor has it
-  if (entra && model_->Permet_Canvis()) return Avancar();
-  if (entra && Fila_Actual() >= 0) {
-    Q_EMIT Doble_Clic(Fila_Actual());
-    return;
+int Graella::Columna_De_L_Ordre() const {
+  const Recordset* rs = model_->Lligat();
+  if (rs == nullptr || !rs->State()) return -1;
+  const int columna = model_->Columna_De(Ordre_De(rs->Source()).camp);
+  return columna < 0 || isColumnHidden(columna) ? -1 : columna;
+}
+
+void Graella::Mostrar_Ordre() {
+  const int columna = Columna_De_L_Ordre();
+  horizontalHeader()->setSortIndicator(columna,
+                                       columna < 0 ? Qt::AscendingOrder : Ordre_De(model_->Lligat()->Source()).sentit);
+}
+
+// ---- Widths -----------------------------------------------------------------------------------------------------
+
+// What the column asks for, or what its title does with the arrow of the order.
+int Graella::Amplada_Propia(int columna) const {
+  constexpr int voltant = 24;
+  const int titol = fontMetrics().horizontalAdvance(model_->Titol(columna)) + voltant;
+  return std::max(model_->Columnes()[static_cast<std::size_t>(columna)].amplada / twips_per_pixel, titol);
+}
+
+int Graella::Amplada_Donada(int columna) const {
+  return amplades_[static_cast<std::size_t>(columna)];
+}
+
+// As they are seen, from left to right; -1 none.
+int Graella::Columna_Visible(bool ultima) const {
+  const QHeaderView& capcalera = *horizontalHeader();
+  const int quantes = capcalera.count();
+  for (int lloc = 0; lloc < quantes; ++lloc) {
+    const int columna = capcalera.logicalIndex(ultima ? quantes - 1 - lloc : lloc);
+    if (!capcalera.isSectionHidden(columna)) return columna;
   }
-  QTableView::keyPressEvent(event);
+  return -1;
 }
 
-// The next cell; after the last one of a row, the first one of the next row.
-void Graella::Avancar() {
-  QModelIndex seguent = currentIndex();
-  do {
-    seguent = seguent.siblingAtColumn(seguent.column() + 1);
-  } while (seguent.isValid() && isColumnHidden(seguent.column()));
-  if (seguent.isValid()) return setCurrentIndex(seguent);
-  const int fila = currentIndex().row();
-  if (!Desar_Fila()) return;
-  if (fila + 1 < model_->rowCount()) setCurrentIndex(model_->index(fila + 1, 0));
+void Graella::Canviada_D_Amplada(int columna, int amplada) {
+  if (omplint_ || amplada == 0 || columna >= static_cast<int>(amplades_.size())) return;
+  amplades_[static_cast<std::size_t>(columna)] = amplada;
+  Omplir_Amplada();
 }
 
-// ---- Rows in edit -----------------------------------------------------------------------------------------------
-
-void Graella::Permetre_Canvis(bool permes) {
-  if (permes == model_->Permet_Canvis()) return;
-  setEditTriggers(permes ? DoubleClicked | EditKeyPressed | AnyKeyPressed : EditTriggers(NoEditTriggers));
-  model_->Permetre_Canvis(permes);
-  Refrescar();
-}
-
-void Graella::Desplegable(const QString& camp, const std::vector<Opcio_Graella>& opcions) {
-  model_->Desplegable(model_->Columna_De(camp), opcions);
-}
-
-bool Graella::En_Edicio() const {
-  return model_->Fila_En_Edicio() >= 0;
-}
-
-bool Graella::Desar_Fila() {
-  if (!En_Edicio()) return true;
-  Formulari::Guardar_Event([this] {
-    try {
-      model_->Desar_Fila();
-    } catch (const Error_Brollador& error) {
-      if (error.Numero() == errors::concurrencia) Rellegir();
-      throw;
-    }
-  });
-  return !En_Edicio();
-}
-
-// What another terminal has changed or deleted meanwhile is shown as it stands, and the edit is given up.
-void Graella::Rellegir() {
-  model_->Descartar_Fila();
-  Recordset& rs = *model_->Lligat();
-  const std::int64_t posicio = rs.AbsolutePosition();
-  rs.Requery();
-  if (rs.RecordCount() > 0) rs.AbsolutePosition(std::clamp<std::int64_t>(posicio, 1, rs.RecordCount()));
-  Refrescar();
-}
-
-void Graella::Descartar_Fila() {
-  model_->Descartar_Fila();
-}
-
-// A row that another terminal holds is not opened.
-bool Graella::edit(const QModelIndex& index, EditTrigger motiu, QEvent* event) {
-  const bool sencer = motiu != NoEditTriggers && (motiu == AllEditTriggers || (editTriggers() & motiu) != 0);
-  if (sencer && index.isValid() && model_->Permet_Canvis() && state() != EditingState) {
-    bool oberta = false;
-    Formulari::Guardar_Event([&] {
-      model_->Comencar(index.row());
-      oberta = true;
-    });
-    if (!oberta) return false;
+// The last column takes what the others leave, and never less than it was given.
+void Graella::Omplir_Amplada() {
+  const int ultima = Columna_Visible(true);
+  if (omplint_ || ultima < 0) return;
+  const QScopedValueRollback guarda(omplint_, true);
+  for (int columna = 0; columna < horizontalHeader()->count(); ++columna) {
+    if (!isColumnHidden(columna)) setColumnWidth(columna, Amplada_Donada(columna));
   }
-  return QTableView::edit(index, motiu, event);
+  const int resta = viewport()->width() - horizontalHeader()->length();
+  if (resta > 0) setColumnWidth(ultima, Amplada_Donada(ultima) + resta);
 }
 
-void Graella::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint com) {
-  const bool entra = com == QAbstractItemDelegate::SubmitModelCache;
-  QTableView::closeEditor(editor, entra ? QAbstractItemDelegate::NoHint : com);
-  if (entra) QMetaObject::invokeMethod(this, &Graella::Avancar, Qt::QueuedConnection);  // when the editor has gone
-}
-
-// A row that is refused is where the user goes back to.
-void Graella::Deixar_Fila(int fila) {
-  const QModelIndex lloc = model_->index(fila, 0);
-  if (Desar_Fila()) return currentChanged(currentIndex(), lloc);
-  QTimer::singleShot(0, this, [this, fila] {
-    if (model_->Fila_En_Edicio() == fila) setCurrentIndex(model_->index(fila, std::max(0, currentIndex().column())));
-  });
-}
-
-// Leaving the grid for another control of its form leaves the row. The exit gives up what is refused.
-void Graella::Deixar_Graella(const QWidget* ara) {
-  if (!En_Edicio() || ara == nullptr || ara->window() != window() || ara == this || isAncestorOf(ara)) return;
-  const QWidget* formulari = parentWidget();
-  while (formulari != nullptr && qobject_cast<const Formulari*>(formulari) == nullptr)
-    formulari = formulari->parentWidget();
-  if (formulari == nullptr || !formulari->isAncestorOf(ara) || static_cast<const Formulari*>(formulari)->Es_Tanca())
-    return;
-  if (!Desar_Fila()) Retenir_Focus(this);
+void Graella::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  Omplir_Amplada();
 }
 
 QString Graella::Nom_Formulari() const {
@@ -268,7 +253,7 @@ void Graella::Desar_Amplades() const {
   for (const auto& que : model_->Columnes()) {
     ++columna;
     if (que.amplada == 0) continue;
-    Recordar_Amplada(Nom_Formulari(), objectName(), QString::fromUtf8(que.camp), columnWidth(columna),
+    Recordar_Amplada(Nom_Formulari(), objectName(), QString::fromUtf8(que.camp), Amplada_Donada(columna),
                      Amplada_Propia(columna));
   }
 }
@@ -278,6 +263,54 @@ void Graella::Recuperar_Amplades() {
   for (const auto& que : model_->Columnes()) {
     ++columna;
     const auto desada = Amplada_Recordada(Nom_Formulari(), objectName(), QString::fromUtf8(que.camp));
-    if (que.amplada > 0 && desada) setColumnWidth(columna, *desada);
+    if (que.amplada > 0 && desada) Canviada_D_Amplada(columna, *desada);
   }
+}
+
+// ---- What is in it ----------------------------------------------------------------------------------------------
+
+void Graella::Seleccio_Multiple(bool multiple) {
+  multiple_ = multiple;
+}
+
+std::vector<std::int64_t> Graella::Files_Seleccionades() const {
+  std::vector<std::int64_t> files;
+  for (const QItemSelectionRange& tram : selectionModel()->selection()) {
+    for (int fila = tram.top(); fila <= std::min(tram.bottom(), model_->Files() - 1); ++fila) files.push_back(fila);
+  }
+  std::sort(files.begin(), files.end());
+  files.erase(std::unique(files.begin(), files.end()), files.end());
+  return files;
+}
+
+QString Graella::Compte() const {
+  const auto text = [](std::size_t quantes, const std::string& una, const std::string& unes) {
+    return QLocale(QLocale::Catalan).toString(static_cast<qlonglong>(quantes)) + u' ' +
+           QString::fromStdString(quantes == 1 ? una : unes);
+  };
+  const QString files = text(static_cast<std::size_t>(model_->Files()), Missatge("fila", "fila", "row"),
+                             Missatge("files", "filas", "rows"));
+  const std::size_t triades = Files_Seleccionades().size();
+  if (!multiple_ && triades < 2) return files;
+  return files + QStringLiteral(", ") +
+         text(triades, Missatge("seleccionada", "seleccionada", "selected"),
+              Missatge("seleccionades", "seleccionadas", "selected"));
+}
+
+QString Graella::Text_Buit() const {
+  const Recordset* rs = model_->Lligat();
+  if (rs == nullptr || !rs->State() || model_->Files() > 0 || En_Edicio()) return {};
+  return QString::fromStdString(Missatge("No hi ha cap fila", "No hay ninguna fila", "There are no rows"));
+}
+
+// An empty grid says so; where several rows may be selected, the current one has a frame.
+void Graella::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  QPainter pintor(viewport());
+  pintor.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+  pintor.drawText(viewport()->rect(), Qt::AlignCenter, Text_Buit());
+  if (!multiple_ || Fila_Actual() < 0) return;
+  const int amplada = std::min(viewport()->width(), horizontalHeader()->length() - horizontalOffset());
+  pintor.setPen(palette().color(QPalette::Highlight));
+  pintor.drawRect(0, rowViewportPosition(currentIndex().row()), amplada - 1, rowHeight(currentIndex().row()) - 1);
 }

@@ -6,15 +6,17 @@
 
 #include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/dades/Connexio.h"
 #include "core/dades/Numeros.h"
 #include "core/formularis/Formulari.h"
 
 Valor Llegir_Escrit(const QString& text, Tipus_Columna tipus, const QString& on) {
   if (text.isEmpty()) return {};
+  if (tipus == Tipus_Columna::Codi) Text_SQL(text.toStdString());  // statements name it
   if (tipus == Tipus_Columna::Codi || tipus == Tipus_Columna::Text) return text.toStdString();
   const std::string net = text.trimmed().toStdString();
   if (tipus == Tipus_Columna::Data || tipus == Tipus_Columna::Data_Hora) {
-    if (const auto dia = Data_De_Text(net)) return *dia;
+    if (const auto dia = Dia_Escrit(text)) return *dia;
   } else if (const auto nombre = Numero_De_Text(net)) {
     return tipus == Tipus_Columna::Doble ? Valor(*nombre) : Valor(Valor(*nombre).Enter());
   }
@@ -57,6 +59,10 @@ QString Lligam::Estat() const {
 
 bool Lligam::Canviat() const {
   return Estat() != mostrat_;
+}
+
+void Lligam::Recordar() {
+  mostrat_ = Estat();
 }
 
 Valor Lligam::Escrit() const {

@@ -13,7 +13,7 @@ class Formulari;
 class QWidget;
 
 // What was typed, for a column of that type: an empty text is null. Raises 13 for a text where a number or a date has
-// to be; `on` names the place.
+// to be, 80040E14 for a code that no statement could name; `on` names the place.
 Valor Llegir_Escrit(const QString& text, Tipus_Columna tipus, const QString& on);
 
 class Lligam {
@@ -27,8 +27,10 @@ class Lligam {
   void Mostrar();  // what the row holds
   // The control does not hold any more what Mostrar put there.
   bool Canviat() const;
-  // Puts what it holds into the pending edit of the row: an empty field is null, an empty number 0. Raises 13 for a
-  // text where a number has to be.
+  // What it holds is what the row has now: it was saved.
+  void Recordar();
+  // Puts what it holds into the pending edit of the row: an empty field is null, an empty number 0. Raises as
+  // Llegir_Escrit does.
   void Posar() const;
   // `rutina` runs when the user leaves it (a field) or chooses in it (a box, a date, a combo).
   void En_Canviar(const std::function<void()>& rutina) const;

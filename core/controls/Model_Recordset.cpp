@@ -4,6 +4,7 @@
 #include <QFont>
 #include <algorithm>
 
+#include "core/Sessio.h"
 #include "core/controls/Lligam.h"
 #include "core/dades/Numeros.h"
 #include "core/formularis/Aparenca.h"
@@ -89,9 +90,9 @@ Valor Model_Recordset::Valor_De(int fila, int columna) const {
   return rs_->Valor_De_Fila(fila, camps_[lloc]);
 }
 
-const std::vector<Opcio_Graella>* Model_Recordset::Opcions(int columna) const {
-  const auto trobades = opcions_.find(columna);
-  return trobades == opcions_.end() ? nullptr : &trobades->second;
+const Desplegable_Graella* Model_Recordset::Desplegable(int columna) const {
+  const auto trobat = desplegables_.find(columna);
+  return trobat == desplegables_.end() ? nullptr : &trobat->second;
 }
 
 QString Model_Recordset::Text(int fila, int columna) const {
@@ -99,33 +100,34 @@ QString Model_Recordset::Text(int fila, int columna) const {
   const Columna_Graella& que = columnes_[static_cast<std::size_t>(columna)];
   if (que.casella) return !valor.Es_Nul() && valor.Boolea() ? QStringLiteral("on") : QStringLiteral("off");
   if (valor.Es_Nul()) return {};
-  if (const auto* opcions = Opcions(columna)) {
+  if (const auto* desplegable = Desplegable(columna)) {
     const QString codi = QString::fromStdString(valor.Text());
-    const auto opcio = std::find_if(opcions->begin(), opcions->end(), [&](const Opcio_Graella& o) {
-      return o.codi.compare(codi, Qt::CaseInsensitive) == 0;
-    });
-    return opcio == opcions->end() ? codi : opcio->text;
+    const auto opcio =
+        std::find_if(desplegable->opcions.begin(), desplegable->opcions.end(),
+                     [&](const Opcio_Graella& o) { return o.codi.compare(codi, Qt::CaseInsensitive) == 0; });
+    return opcio == desplegable->opcions.end() ? codi : opcio->text;
   }
   const bool nombre = valor.Es_Doble() || valor.Es_Enter();
   return QString::fromStdString(nombre && *que.mascara != '\0' ? Format_Numero(valor.Doble(), que.mascara)
                                                                : valor.Text());
 }
 
+QString Model_Recordset::Text_Mostrat(int fila, int columna) const {
+  const QString text = Text(fila, columna);
+  if (columnes_[static_cast<std::size_t>(columna)].casella) return text == u"on" ? QStringLiteral("✓") : QString();
+  return text.simplified();
+}
+
 QVariant Model_Recordset::data(const QModelIndex& index, int paper) const {
   const Columna_Graella& que = columnes_[static_cast<std::size_t>(index.column())];
   switch (paper) {
-    case Qt::DisplayRole: {
-      const QString text = Text(index.row(), index.column());
-      if (que.casella) return text == u"on" && !canvis_ ? QStringLiteral("✓") : QString();
-      return text.simplified();
-    }
+    case Qt::DisplayRole:
+      return que.casella && canvis_ ? QString() : Text_Mostrat(index.row(), index.column());
     case Qt::EditRole:
       return QString::fromStdString(Valor_De(index.row(), index.column()).Text());
     case Qt::CheckStateRole:
       if (!que.casella || !canvis_) return {};
       return Text(index.row(), index.column()) == u"on" ? Qt::Checked : Qt::Unchecked;
-    case Qt::ToolTipRole:
-      return que.casella ? QVariant() : Text(index.row(), index.column());
     case Qt::TextAlignmentRole:
       return Costat(que);
     case Qt::BackgroundRole:
@@ -157,8 +159,17 @@ void Model_Recordset::Permetre_Canvis(bool permes) {
 Qt::ItemFlags Model_Recordset::flags(const QModelIndex& index) const {
   const Qt::ItemFlags trets = QAbstractTableModel::flags(index);
   if (!canvis_ || !index.isValid()) return trets;
-  const bool casella = columnes_[static_cast<std::size_t>(index.column())].casella;
-  return trets | (casella ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
+  const Columna_Graella& que = columnes_[static_cast<std::size_t>(index.column())];
+  if (que.fixa) return trets;
+  return trets | (que.casella ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
+}
+
+bool Model_Recordset::Es_Clau(int columna) const {
+  if (!Es_Obert() || !Hi_Es(columna)) return false;
+  const Camp& camp = rs_->Fields()[static_cast<std::size_t>(camps_[static_cast<std::size_t>(columna)])];
+  const Taula* taula = sessio.Connexio_Comuna.Taules().Cercar(camp.taula);
+  if (taula == nullptr) taula = sessio.Connexio_Local.Taules().Cercar(camp.taula);
+  return taula != nullptr && std::find(taula->clau.begin(), taula->clau.end(), camp.origen) != taula->clau.end();
 }
 
 Tipus_Columna Model_Recordset::Tipus(int columna) const {
@@ -189,7 +200,8 @@ bool Model_Recordset::setData(const QModelIndex& index, const QVariant& valor, i
     if (valor.toString() == data(index, Qt::EditRole).toString()) return false;
     Posar(index.row(), index.column(), Llegir_Escrit(valor.toString(), Tipus(index.column()), Titol(index.column())));
   }
-  Q_EMIT dataChanged(index, index);
+  if (nova && rs_->EditMode() == Edicio::Alta) nova(columnes_[static_cast<std::size_t>(index.column())].camp);
+  Q_EMIT dataChanged(index.siblingAtColumn(0), index.siblingAtColumn(columnCount() - 1));
   return true;
 }
 

@@ -11,6 +11,11 @@
 
 #include "core/controls/Graella.h"
 
+struct Desplegable_Graella {
+  std::vector<Opcio_Graella> opcions;
+  QStringList titols;  // of the codes and of the texts; none: only the texts are shown
+};
+
 class Model_Recordset : public QAbstractTableModel {
  public:
   using QAbstractTableModel::QAbstractTableModel;
@@ -28,15 +33,18 @@ class Model_Recordset : public QAbstractTableModel {
   Valor Valor_De(int fila, int columna) const;
   QString Text(int fila, int columna) const;
   QString Estil(int fila) const { return estil && fila < Files() ? estil(fila) : QString(); }
+  QString Text_Mostrat(int fila, int columna) const;  // in one line; a tick is a tick
   std::function<QString(std::int64_t)> estil;
+  std::function<void(const char* camp)> nova;  // a value was put into a row that is being added
 
   int Files() const;  // of the recordset
   void Permetre_Canvis(bool permes);
   bool Permet_Canvis() const { return canvis_; }
   // A column takes one of these codes, and shows its text.
-  void Desplegable(int columna, std::vector<Opcio_Graella> opcions) { opcions_[columna] = std::move(opcions); }
-  const std::vector<Opcio_Graella>* Opcions(int columna) const;
+  void Desplegable(int columna, Desplegable_Graella que) { desplegables_[columna] = std::move(que); }
+  const Desplegable_Graella* Desplegable(int columna) const;
   Tipus_Columna Tipus(int columna) const;
+  bool Es_Clau(int columna) const;  // of its table
 
   int Fila_En_Edicio() const { return fila_; }  // -1 none
   void Comencar(int fila);                      // holds an existing row; raises when another terminal edits it
@@ -60,7 +68,7 @@ class Model_Recordset : public QAbstractTableModel {
   QStringList titols_;
   Recordset* rs_ = nullptr;
   std::vector<int> camps_;  // place of each column in the recordset
-  std::map<int, std::vector<Opcio_Graella>> opcions_;
+  std::map<int, Desplegable_Graella> desplegables_;
   bool canvis_ = false;
   int fila_ = -1;
 };

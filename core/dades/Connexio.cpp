@@ -18,6 +18,7 @@ void Connexio::Open(const std::string& adreca, int espera) {
 }
 
 void Connexio::Close() {
+  Transaccio::Desfer_Oberta(*this);
   motor_.reset();
 }
 
@@ -74,6 +75,9 @@ void Connexio::RollbackTrans() {
 bool Connexio::En_Transaccio() const {
   return motor_ && motor_->En_Transaccio();
 }
+bool Connexio::Te_Canvis() const {
+  return motor_ && motor_->Te_Canvis();
+}
 
 const Cataleg& Connexio::Taules() const {
   if (!motor_) Llancar_Falla(Falla::Sense_Connexio, "Connexio");
@@ -120,4 +124,10 @@ std::string Text_SQL(std::string_view valor) {
                   "'" + std::string(valor.substr(0, valor.find('\0')).substr(0, prou)) + "'");
   }
   return "'" + std::string(valor) + "'";
+}
+
+std::string Codi_SQL(std::string_view valor) {
+  std::string doblat;
+  for (const char lletra : valor) doblat += lletra == '\'' ? std::string("''") : std::string(1, lletra);
+  return "'" + doblat + "'";
 }

@@ -1,7 +1,7 @@
 // A connection to one database, in the system's own statements and transactions.
 //
 // The address is the path of a SQLite file (which must exist) or postgresql://host/base. Statements are written in
-// the system's dialect (Dialecte.h); every literal becomes a bound parameter. BeginTrans only marks the start: the
+// the system's dialect (Dialecte.h); every literal becomes a bound parameter. A Transaccio only marks the start: the
 // engine's transaction begins with the first write after it. A failed statement leaves the transaction usable.
 #pragma once
 
@@ -14,6 +14,7 @@
 
 #include "core/dades/Adreca.h"
 #include "core/dades/Cataleg.h"
+#include "core/dades/Transaccio.h"
 #include "core/dades/Valor.h"
 
 class Motor;
@@ -47,10 +48,10 @@ class Connexio {
   // opening it then costs no trip; with a file it does nothing.
   void Demanar(std::string_view font, Bloqueig bloqueig = Bloqueig::Lectura);
 
-  void BeginTrans();
-  void CommitTrans();
-  void RollbackTrans();
+  // A Transaccio is open.
   bool En_Transaccio() const;
+  // It has written: until its end other terminals wait for what it holds.
+  bool Te_Canvis() const;
 
   // Tables and columns as the dialect declares them.
   const Cataleg& Taules() const;
@@ -66,8 +67,14 @@ class Connexio {
   Motor& motor();  // for Recordset
 
  private:
+  friend class Transaccio;
+  void BeginTrans();
+  void CommitTrans();
+  void RollbackTrans();
+
   std::unique_ptr<Motor> motor_;
   std::string adreca_;
+  std::shared_ptr<Transaccio::Estat> transaccio_;  // of the one that is open
 };
 
 // Creates a new, empty database at the address for Open and CREATE TABLE: a file that does not exist yet, or our
@@ -85,3 +92,6 @@ void Esborrar_Base_Dades(const std::string& adreca);
 // 'valor' between single quotes for a statement. Quotes are not doubled: a value that holds one is refused with the
 // faulty-statement error, so that typed text never becomes part of a statement.
 std::string Text_SQL(std::string_view valor);
+// The same for a code that a row holds, such as one of an older installation: its quotes are doubled. For what was read
+// of the database, never for what was typed.
+std::string Codi_SQL(std::string_view valor);

@@ -64,7 +64,11 @@ std::optional<Data_Hora> Llegir_Data_Desada(std::string_view text) {
   return data;
 }
 
-Data_Hora Rellotge_Local() {
+namespace {
+
+std::function<Data_Hora()> rellotge_fixat;
+
+Data_Hora Rellotge_De_La_Maquina() {
   const std::time_t ara = std::time(nullptr);
   std::tm local{};
   localtime_r(&ara, &local);
@@ -74,4 +78,14 @@ Data_Hora Rellotge_Local() {
           .hora = local.tm_hour,
           .minut = local.tm_min,
           .segon = local.tm_sec};
+}
+
+}  // namespace
+
+Data_Hora Rellotge_Local() {
+  return rellotge_fixat ? rellotge_fixat() : Rellotge_De_La_Maquina();
+}
+
+void Fixar_Rellotge_Local(std::function<Data_Hora()> rellotge) {
+  rellotge_fixat = std::move(rellotge);
 }

@@ -1,6 +1,7 @@
 // The calendar behind dates: which days exist, how a date is stored, days that roll over.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,5 +18,6 @@ Data_Hora Data_Serial(int any, int mes, int dia);
 std::string Data_Desada(const Data_Hora& data);
 std::optional<Data_Hora> Llegir_Data_Desada(std::string_view text);
 
-// The clock of this machine, in local time.
+// The clock of this machine, in local time, which NOW() of a file tells; or the one that stands in for it.
 Data_Hora Rellotge_Local();
+void Fixar_Rellotge_Local(std::function<Data_Hora()> rellotge);  // empty: the machine's own

@@ -67,7 +67,8 @@ Falla Falla_De(std::string_view codi, std::string_view sql) {
   if (codi == "23505") return Falla::Clau_Repetida;
   if (codi == "23503" || codi == "23001") return Falla_De_Relacio(sql);
   if (codi == "23502") return Falla::Valor_Buit;
-  if (codi == "55P03" || codi == "40P01" || codi == "40001") return Falla::Espera;
+  if (codi == "55P03") return Falla::Espera;
+  if (codi == "40P01" || codi == "40001") return Falla::Interbloqueig;
   if (codi == "25006") return Falla::No_Es_Pot_Escriure;
   return Falla::Altra_Del_Motor;
 }

@@ -26,6 +26,7 @@ enum class Falla {
   Sense_Pare,          // it points at a row that is not there
   Valor_Buit,          // nothing where something has to be
   Espera,              // another terminal held what was wanted for too long
+  Interbloqueig,       // two terminals waited for each other, and the server gave up this one's transaction
   Sense_Connexio,      // the database cannot be reached, or not any more
   Transaccio_Desfeta,  // by the engine: nothing of it is left
   Fila_Retinguda,      // another terminal has the row in edit
@@ -43,6 +44,8 @@ class Error_Brollador : public std::runtime_error {
   const std::string& Origen() const { return origen_; }
   std::string Descripcio() const { return what(); }
   Falla Motiu() const { return falla_; }
+  // What failed may well succeed as it stands, once the other terminal is ready.
+  bool Es_Passatger() const { return falla_ == Falla::Espera || falla_ == Falla::Interbloqueig; }
 
  private:
   int numero_;

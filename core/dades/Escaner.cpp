@@ -1,6 +1,7 @@
 #include <array>
 #include <cctype>
 #include <charconv>
+#include <optional>
 
 #include "core/dades/Dates.h"
 #include "core/dades/Dialecte.h"
@@ -9,6 +10,26 @@
 using namespace mots_sql;
 
 namespace {
+
+using Tres = std::array<int, 3>;
+
+// Exactly three, with this sign between them.
+std::optional<Tres> Tres_Numeros(std::string_view text, char entre) {
+  Tres numeros{};
+  const char* p = text.data();
+  const char* final = p + text.size();
+  for (std::size_t k = 0; k < numeros.size(); ++k) {
+    const auto [seguent, error] = std::from_chars(p, final, numeros[k]);
+    const bool segueix = k + 1 < numeros.size() ? seguent != final && *seguent == entre : seguent == final;
+    if (error != std::errc() || !segueix) return std::nullopt;
+    p = seguent == final ? seguent : seguent + 1;
+  }
+  return numeros;
+}
+
+bool Es_Hora(const Tres& hora) {
+  return hora[0] >= 0 && hora[0] < 24 && hora[1] >= 0 && hora[1] < 60 && hora[2] >= 0 && hora[2] < 60;
+}
 
 class Escaner {
  public:
@@ -60,23 +81,20 @@ class Escaner {
     Sentencia_Erronia("'" + valor.substr(0, 20));
   }
 
+  // M/D/YYYY, and H:MM:SS behind a blank.
   void Llegir_Data() {
-    std::array<int, 3> parts{};  // month, day, year
     const std::size_t fi = text_.find('#', i_ + 1);
     const std::string_view dins = text_.substr(i_ + 1, fi == std::string_view::npos ? 0 : fi - i_ - 1);
-    const char* p = dins.data();
-    const char* final = p + dins.size();
-    bool be = true;
-    for (std::size_t k = 0; be && k < 3; ++k) {
-      const auto [seguent, error] = std::from_chars(p, final, parts[k]);
-      be = error == std::errc() && (k == 2 ? seguent == final : seguent != final && *seguent == '/');
-      p = k == 2 || !be ? seguent : seguent + 1;
-    }
-    const Data_Hora data{.any = parts[2], .mes = parts[0], .dia = parts[1]};
-    if (!be || !Es_Data(data)) Sentencia_Erronia("#" + std::string(dins));
+    const std::size_t blanc = dins.find(' ');
+    const auto dia = Tres_Numeros(dins.substr(0, blanc), '/');
+    const auto hora =
+        blanc == std::string_view::npos ? std::optional(Tres{}) : Tres_Numeros(dins.substr(blanc + 1), ':');
+    if (!dia || !hora) Sentencia_Erronia("#" + std::string(dins));
+    const Data_Hora moment{(*dia)[2], (*dia)[0], (*dia)[1], (*hora)[0], (*hora)[1], (*hora)[2]};
+    if (!Es_Data(moment) || !Es_Hora(*hora)) Sentencia_Erronia("#" + std::string(dins));
     i_ = fi + 1;
     if (i_ < text_.size() && Es_De_Nom(text_[i_])) Sentencia_Erronia(text_.substr(i_, 20));
-    Literal(data);
+    Literal(moment);
   }
 
   // A digit that begins a number, or the sign of one where a value is expected.

@@ -47,6 +47,7 @@ class Motor {
   virtual void CommitTrans() = 0;
   virtual void RollbackTrans() = 0;
   virtual bool En_Transaccio() const = 0;
+  virtual bool Te_Canvis() const = 0;  // the transaction has begun to write
   // Rows read to be written have to be held by their statement, in a transaction that has begun on an engine where
   // others write at the same time: a number of that transaction, as long as what it read is held. 0 otherwise.
   virtual std::int64_t Transaccio_Que_Reten() const { return 0; }

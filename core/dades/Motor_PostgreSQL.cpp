@@ -101,31 +101,35 @@ class Motor_PostgreSQL final : public Motor {
   void BeginTrans() override { marcada_ = true; }
 
   void CommitTrans() override {
-    const std::vector<std::int64_t> per_deixar = per_deixar_;  // also when it fails, behind the rollback
     if (comencada_) {
       Exigir_Viva();
+      const std::vector<std::int64_t> per_deixar = per_deixar_;  // when it fails, behind the rollback
       enllac_.Encuar("COMMIT");
+      Encuar_Per_Deixar();
+      try {
+        Enviar();
+      } catch (const Error_Brollador&) {
+        per_deixar_ = per_deixar;
+        throw;
+      }
     }
-    Encuar_Per_Deixar();
-    try {
-      Enviar();
-    } catch (const Error_Brollador&) {
-      per_deixar_ = per_deixar;
-      throw;
-    }
+    Deixar_Pendents();
     Oblidar_Transaccio();
   }
 
   void RollbackTrans() override {
     const bool cal = comencada_ && enviada_;
     Oblidar_Transaccio();
-    if (!enllac_.Es_Viu()) return per_deixar_.clear();
-    if (cal) enllac_.Encuar("ROLLBACK");
-    Encuar_Per_Deixar();
-    enllac_.Enviar();
+    if (cal && enllac_.Es_Viu()) {
+      enllac_.Encuar("ROLLBACK");
+      Encuar_Per_Deixar();
+      enllac_.Enviar();
+    }
+    Deixar_Pendents();
   }
 
   bool En_Transaccio() const override { return marcada_; }
+  bool Te_Canvis() const override { return comencada_; }
   std::int64_t Transaccio_Que_Reten() const override { return comencada_ ? numero_ : 0; }
   std::int64_t Viatges() const override { return enllac_.Viatges(); }
 
@@ -141,9 +145,7 @@ class Motor_PostgreSQL final : public Motor {
   void Deixar_Anar(const std::string& taula, const Valor& clau) override {
     if (!enllac_.Es_Viu()) return;
     per_deixar_.push_back(Empremta_Fila(taula, clau));
-    if (marcada_) return;
-    Encuar_Per_Deixar();
-    enllac_.Enviar();
+    if (!marcada_) Deixar_Pendents();
   }
   std::string Condicio_Lliure(int parametre) const override {
     return " AND pg_try_advisory_xact_lock($" + std::to_string(parametre) + ")";
@@ -165,6 +167,18 @@ class Motor_PostgreSQL final : public Motor {
     for (const std::int64_t fila : std::exchange(per_deixar_, {})) {
       enllac_.Encuar("SELECT pg_advisory_unlock($1)", {fila});
     }
+  }
+
+  // Never raises: what cannot be let go went with its connection.
+  void Deixar_Pendents() {
+    if (per_deixar_.empty()) return;
+    try {
+      Encuar_Per_Deixar();
+      if (enllac_.Es_Viu()) enllac_.Enviar();
+    } catch (const Error_Brollador&) {
+      per_deixar_.clear();
+    }
+    enllac_.Oblidar_Cua();
   }
 
   Resultat_PG Passar(const std::string& sql, const std::vector<Valor>& parametres) {

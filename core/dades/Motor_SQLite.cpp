@@ -12,6 +12,7 @@
 
 #include "core/dades/Dates.h"
 #include "core/dades/Errors_Motor.h"
+#include "core/dades/Espera.h"
 #include "core/dades/Funcions_SQLite.h"
 #include "core/dades/Motor.h"
 #include "core/dades/Retencio_Fitxer.h"
@@ -57,6 +58,8 @@ struct Preparada {
 int Esperar_Torn(void* limit, int vegades) {
   constexpr int pas = 2000;  // microseconds
   if (static_cast<std::int64_t>(vegades) * pas / 1000 >= *static_cast<const int*>(limit)) return 0;
+  constexpr int es_nota = 50;  // steps
+  if (vegades > es_nota) Avisar_De_L_Espera();
   usleep(static_cast<useconds_t>(pas / 2 + (vegades * 7 + getpid()) % pas));
   return 1;
 }
@@ -182,6 +185,7 @@ class Motor_SQLite final : public Motor {
   }
 
   bool En_Transaccio() const override { return marcada_; }
+  bool Te_Canvis() const override { return comencada_; }
 
   std::string Condicio_Identica(const Columna& columna, int parametre) const override {
     const bool text = columna.tipus == Tipus_Columna::Codi || columna.tipus == Tipus_Columna::Text;

@@ -1,19 +1,19 @@
 #include "core/formularis/Control_Interface.h"
 
 #include <QApplication>
-#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <algorithm>
 #include <map>
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/controls/Camps.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Crides.h"
 #include "core/formularis/Finestra_Principal.h"
+#include "core/formularis/Finestres.h"
 #include "core/formularis/Formulari.h"
-#include "core/formularis/Memoria_Pantalles.h"
 #include "core/formularis/Pares.h"
 #include "core/formularis/Traduccio.h"
 
@@ -29,49 +29,27 @@ std::map<QString, Formulari*>& Carregats() {
   return carregats;
 }
 
-QMdiSubWindow* Subfinestra(const Formulari* formulari) {
-  return qobject_cast<QMdiSubWindow*>(formulari->parentWidget());
-}
-
 // The window and what is in it: a form that has not been shown yet comes to its window as it was left.
 void Habilitar(Formulari* formulari, bool habilitat) {
   formulari->setEnabled(habilitat);
   if (QMdiSubWindow* finestra = Subfinestra(formulari)) finestra->setEnabled(habilitat);
 }
 
-// Centred, a little above the middle: the menu and the status area need their room.
-void Centrar_Formulari(QMdiSubWindow* finestra, const QMdiArea* area) {
-  const QSize lloc = area->viewport()->size();
-  const int x = std::max(0, (lloc.width() - finestra->width()) / 2);
-  const int y = std::max(0, (lloc.height() * 7 / 8 - finestra->height()) / 2);
-  finestra->move(x, y);
+// Property of a form that was translated before it was measured and shown: Obrir_Formulari need not do it again.
+constexpr const char* traduit = "traduit";
+
+QMdiArea& Area() {
+  return *Finestra_Principal::Unica()->Area();
 }
 
-// What the form asks for, with its frame.
-QSize Mida_Propia(const Formulari* formulari) {
-  const QSize vora = Subfinestra(formulari)->sizeHint() - formulari->sizeHint();
-  return formulari->sizeHint() + vora;
-}
-
-// What is inside pages of tabs has been measured before its fonts and texts were there.
-void Mesurar_De_Nou(const Formulari* formulari) {
-  for (auto* peca : formulari->findChildren<QWidget*>()) peca->ensurePolished();
-  for (auto* disposicio : formulari->findChildren<QLayout*>()) disposicio->invalidate();
-  for (auto* peca : formulari->findChildren<QWidget*>()) peca->updateGeometry();
-}
-
-// The size that the user gave it, or room enough for what the form asks for; never more than there is.
-void Collocar(Formulari* formulari) {
-  Mesurar_De_Nou(formulari);
-  QMdiArea* area = Finestra_Principal::Unica()->Area();
-  QMdiSubWindow* finestra = area->addSubWindow(formulari);
-  finestra->setAttribute(Qt::WA_DeleteOnClose);
-  if (formulari->Sempre_A_Dalt()) finestra->setWindowFlag(Qt::WindowStaysOnTopHint);
-  finestra->resize(
-      Mida_Recordada(formulari->Nom()).value_or(Mida_Propia(formulari)).boundedTo(area->viewport()->size()));
-  Centrar_Formulari(finestra, area);
-  finestra->setEnabled(formulari->isEnabled());
-  finestra->show();
+// A wrong row of TEXTS is told, and the form opens as it was designed.
+void Traduir_O_Avisar(const QString& nom) {
+  try {
+    Traduir_Formulari(nom);
+  } catch (const Error_Brollador& error) {
+    Mostrar_Error(error);
+    sessio.Error_Mostrat = false;  // what fails later is another failure
+  }
 }
 
 Formulari* Carregar_Formulari(const QString& nom) {
@@ -117,6 +95,62 @@ Formulari* Carregat(const Pare& pare) {
   return Formulari_De_Nom(QString::fromUtf16(pare.pare));
 }
 
+// The loaded form that was opened over this one; null when nothing lies over it.
+Formulari* El_De_Sobre(const Formulari* formulari) {
+  const QString nom = formulari->Nom().toUpper();
+  for (const auto& [fill, pares] : Pares_En_Obrir()) {
+    const bool hi_es =
+        std::any_of(pares.begin(), pares.end(), [&](const Pare* pare) { return nom == QStringView(pare->pare); });
+    Formulari* sobre = hi_es ? Formulari_De_Nom(fill) : nullptr;
+    if (sobre != nullptr && sobre != formulari && Subfinestra(sobre) != nullptr) return sobre;
+  }
+  return nullptr;
+}
+
+// A form that others lie over comes with them: the last of them is the one that can be used.
+void Portar_Al_Davant(Formulari* formulari) {
+  while (!formulari->isEnabled()) {
+    Formulari* sobre = El_De_Sobre(formulari);
+    if (sobre == nullptr) break;
+    Subfinestra(formulari)->raise();
+    formulari = sobre;
+  }
+  Finestra_Principal::Unica()->Portar_Al_Davant(Subfinestra(formulari));
+}
+
+// The calls that lists were opened for, while the session's tag may already say something else.
+std::map<QString, const Crida*>& Crides_En_Obrir() {
+  static std::map<QString, const Crida*> crides;
+  return crides;
+}
+
+const Crida* Crida_En_Tancar(const QString& nom) {
+  auto recordada = Crides_En_Obrir().extract(nom);
+  const Crida* crida = recordada.empty() ? nullptr : recordada.mapped();
+  const bool hi_es = crida != nullptr && Formulari_De_Nom(QString::fromUtf16(crida->formulari)) != nullptr;
+  return hi_es ? crida : nullptr;
+}
+
+// What comes to the front when a form goes: the form that asked it for a row, the parent that was used last, or else
+// the form that was in front before.
+QMdiSubWindow* El_Seguent(const QMdiSubWindow* tancada, const std::vector<Formulari*>& pares, const Crida* crida) {
+  if (crida != nullptr) return Subfinestra(Formulari_De_Nom(QString::fromUtf16(crida->formulari)));
+  QMdiSubWindow* abans = Del_Davant_Abans(Area(), tancada);
+  if (pares.empty()) return abans;
+  const bool es_pare =
+      std::any_of(pares.begin(), pares.end(), [&](const Formulari* pare) { return Subfinestra(pare) == abans; });
+  return es_pare ? abans : Subfinestra(pares.front());
+}
+
+// A list that was closed without a choice leaves the user in the field that asked.
+void Tornar_Al_Camp(const Crida& crida) {
+  const Formulari* formulari = Formulari_De_Nom(QString::fromUtf16(crida.formulari));
+  QWidget* camp = formulari == nullptr || crida.destins.empty()
+                      ? nullptr
+                      : formulari->Cercar_Control(QString::fromUtf16(crida.destins.front().control));
+  if (camp != nullptr) Posar_Focus(camp);
+}
+
 }  // namespace
 
 void Registrar_Formulari(const QString& nom, std::function<Formulari*()> fabrica) {
@@ -147,20 +181,27 @@ Formulari* Carregar_Amagat(const QString& nom) {
   return carregat != nullptr ? carregat : Carregar_Formulari(nom.toUpper());
 }
 
-// A window that fills the area, or is put away, tells nothing about its size.
-void Recordar_Mida(const Formulari* formulari) {
-  const QMdiSubWindow* finestra = Subfinestra(formulari);
-  if (finestra == nullptr || finestra->isMaximized() || finestra->isMinimized()) return;
-  const QSize lloc = Finestra_Principal::Unica()->Area()->viewport()->size();
-  Recordar_Mida(formulari->Nom(), finestra->size(), Mida_Propia(formulari).boundedTo(lloc));
+Formulari* Mostrar_Formulari(const QString& nom) {
+  Formulari* formulari = Formulari_De_Nom(nom);
+  if (formulari != nullptr && Subfinestra(formulari) != nullptr) {
+    formulari->Tornar_A_Obrir();
+  } else {
+    formulari = Carregar_Amagat(nom);
+    if (formulari == nullptr) return nullptr;
+    if (Es_Del_Sistema(nom.toUpper())) Traduir_O_Avisar(nom);
+    formulari->setProperty(traduit, true);
+    Collocar(Area(), formulari);
+  }
+  Crides_En_Obrir()[nom.toUpper()] = Crida_Pendent(nom);
+  Portar_Al_Davant(formulari);
+  return formulari;
 }
 
-Formulari* Mostrar_Formulari(const QString& nom) {
-  Formulari* formulari = Carregar_Amagat(nom);
-  if (formulari == nullptr) return nullptr;
-  if (Subfinestra(formulari) == nullptr) Collocar(formulari);
-  Finestra_Principal::Unica()->Portar_Al_Davant(Subfinestra(formulari));
-  return formulari;
+bool Deixar_El_D_Abans(const QString& nom) {
+  Formulari* obert = Formulari_De_Nom(nom);
+  if (obert == nullptr || Deixar_El_Camp_De(obert)) return true;
+  if (Subfinestra(obert) != nullptr) Portar_Al_Davant(obert);
+  return false;
 }
 
 void Descarregar_Formulari(const QString& nom) {
@@ -187,7 +228,10 @@ void Descarregar_Tots() {
 void Obrir_Formulari(const QString& nom) {
   const QString majuscules = nom.toUpper();
   if (!Es_Del_Sistema(majuscules)) return;
-  Traduir_Formulari(majuscules);
+  Formulari* formulari = Formulari_De_Nom(majuscules);
+  const bool acabat_de_traduir = formulari != nullptr && formulari->property(traduit).toBool();
+  if (formulari != nullptr) formulari->setProperty(traduit, QVariant());
+  if (!acabat_de_traduir) Traduir_O_Avisar(majuscules);
   Pares_En_Obrir()[majuscules] = Pares_De(majuscules);
   for (const Pare* pare : Pares_De(majuscules)) {
     if (pare->mena == Mena_Pare::Creat) Carregar_Amagat(QString::fromUtf16(pare->pare));
@@ -197,19 +241,29 @@ void Obrir_Formulari(const QString& nom) {
 
 void Tancar_Formulari(const QString& nom) {
   const QString majuscules = nom.toUpper();
+  const Formulari* tancat = Formulari_De_Nom(majuscules);
+  const QMdiSubWindow* finestra = tancat == nullptr ? nullptr : Subfinestra(tancat);
+  // A form that no main window holds leaves nothing in front.
+  const bool amb_finestra = Finestra_Principal::Unica() != nullptr;
+  const QMdiSubWindow* davant = amb_finestra ? Area().activeSubWindow() : nullptr;
+  const Crida* crida = Crida_En_Tancar(majuscules);
   Carregats().erase(majuscules);
   Oblidar_Crida(majuscules);
-  QMdiSubWindow* seguent = nullptr;
+  std::vector<Formulari*> pares;
   for (const Pare* pare : Pares_En_Tancar(majuscules)) {
     Formulari* carregat = Carregat(*pare);
     if (carregat == nullptr) continue;
     Habilitar(carregat, true);
     if (pare->requerir) Requerir(carregat);
     if (Graella* graella = carregat->Graella_Llista()) graella->setFocus();
-    if (seguent == nullptr) seguent = Subfinestra(carregat);
+    if (Subfinestra(carregat) != nullptr) pares.push_back(carregat);
   }
   if (majuscules != u"F_CERCA") Descarregar_Formulari(QStringLiteral("F_CERCA"));
-  if (seguent != nullptr) Finestra_Principal::Unica()->Portar_Al_Davant(seguent);
+  if (pares.empty() && davant != nullptr && davant != finestra) return;  // it was not in front
+  QMdiSubWindow* seguent = amb_finestra ? El_Seguent(finestra, pares, crida) : nullptr;
+  if (seguent == nullptr) return;
+  Finestra_Principal::Unica()->Portar_Al_Davant(seguent);
+  if (crida != nullptr) Tornar_Al_Camp(*crida);
 }
 
 void Aplicar_Drets(const QString& nom) {
@@ -220,6 +274,14 @@ void Obrir(const QString& nom) {
   Formulari::Guardar_Event([&] {
     if (Mostrar_Formulari(nom) != nullptr) Obrir_Formulari(nom);
   });
+}
+
+void Traduir_Formularis() {
+  Traduir_O_Avisar(QStringLiteral("F_PRINCIPAL"));
+  for (const auto* formulari : Formularis_Carregats()) {
+    Traduir_O_Avisar(formulari->Nom());
+    Encabir_Textos(Area(), formulari);
+  }
 }
 
 void Punter_Ocupat() {

@@ -20,19 +20,22 @@ bool Hi_Ha_Fabrica(const QString& nom);  // the screen exists in this program
 Formulari* Mostrar_Formulari(const QString& nom);
 // Loads it without showing it: for a form whose criteria another one reads.
 Formulari* Carregar_Amagat(const QString& nom);
+// The fields of a form that stands open are left, for it to show another row. False, with the form in front, when one
+// of them refuses what it holds: the row that it shows has to stay.
+bool Deixar_El_D_Abans(const QString& nom);
 // The loaded form of that name, or null.
 Formulari* Formulari_De_Nom(const QString& nom);
 std::vector<Formulari*> Formularis_Carregats();
 // Unloads a form (its own unload runs first). Nothing when it is not loaded.
 void Descarregar_Formulari(const QString& nom);
-// For the next time that this user opens it; before it goes.
-void Recordar_Mida(const Formulari* formulari);
 // All of them, the one in front first.
 void Descarregar_Tots();
 
 // Every opener, right after the form is shown: texts, parents disabled. Nothing for a name that is none of the system's
 // forms.
 void Obrir_Formulari(const QString& nom);
+// The main window and every open form in the language of the session.
+void Traduir_Formularis();
 // The unload of every form: parents requeried and enabled, F_Cerca unloaded.
 void Tancar_Formulari(const QString& nom);
 void Aplicar_Drets(const QString& nom);

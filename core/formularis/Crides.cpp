@@ -1,6 +1,7 @@
 #include "core/formularis/Crides.h"
 
 #include <QAbstractButton>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
@@ -94,6 +95,52 @@ void Portar_El_Focus(const Formulari& formulari, QWidget* camp) {
   Posar_Focus(camp);
 }
 
+// ---- Opening ----------------------------------------------------------------------------------------------------
+
+QWidget* Camp_Que_Crida(const Crida& crida, const Formulari& formulari) {
+  const bool de_codi = crida.mena == Mena_Crida::Camp || crida.mena == Mena_Crida::Combo;
+  return de_codi ? formulari.Cercar_Control(QString::fromUtf16(crida.destins.front().control)) : nullptr;
+}
+
+QString Codi_Al_Camp(const QWidget* camp) {
+  if (const auto* combo = qobject_cast<const Combo_Codi*>(camp)) return QString::fromStdString(combo->Codi());
+  const auto* text = qobject_cast<const QLineEdit*>(camp);
+  return text == nullptr ? QString() : text->text();
+}
+
+// On the row that the field names, if there is one.
+void Situar(const Crida& crida) {
+  Formulari* llista = Formulari_De_Nom(QString::fromUtf16(crida.llista));
+  const Formulari* formulari = Formulari_De_Nom(QString::fromUtf16(crida.formulari));
+  Graella* graella = llista == nullptr ? nullptr : llista->Graella_Llista();
+  if (graella == nullptr || formulari == nullptr) return;
+  graella->De_Triar(true);
+  const QString codi = Codi_Al_Camp(Camp_Que_Crida(crida, *formulari));
+  if (!codi.isEmpty()) graella->Anar_Al_Valor(QString::fromUtf8(crida.destins.front().columna), codi);
+}
+
+// F4 or Alt+Down in the field opens its list, as its button does. The field is not left: what was typed waits there.
+class Tecles_De_Llista : public QObject {
+ public:
+  Tecles_De_Llista(QObject* camp, const QAbstractButton& boto, const Crida& crida)
+      : QObject(camp), boto_(boto), crida_(crida) {}
+
+ protected:
+  bool eventFilter(QObject* objecte, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress || !boto_.isEnabled()) return QObject::eventFilter(objecte, event);
+    const auto& tecla = static_cast<const QKeyEvent&>(*event);
+    const bool l_obre = (tecla.key() == Qt::Key_F4 && tecla.modifiers() == Qt::NoModifier) ||
+                        (tecla.key() == Qt::Key_Down && tecla.modifiers() == Qt::AltModifier);
+    if (!l_obre) return QObject::eventFilter(objecte, event);
+    Cridar(crida_);
+    return true;
+  }
+
+ private:
+  const QAbstractButton& boto_;
+  const Crida& crida_;
+};
+
 }  // namespace
 
 void Fixar_Crides(std::span<const Crida> taula) {
@@ -131,6 +178,7 @@ bool Tornar_Fila(Formulari& llista) {
 void Cridar(const Crida& crida) {
   sessio.*crida.variable = crida.etiqueta;
   Obrir(QString::fromUtf16(crida.llista));
+  Formulari::Guardar_Event([&] { Situar(crida); });
 }
 
 void Connectar_Crides(Formulari& formulari) {
@@ -140,6 +188,8 @@ void Connectar_Crides(Formulari& formulari) {
     if (boto == nullptr) continue;
     formulari.Boto_De_Pantalla(boto->objectName(), QString::fromUtf16(crida.llista));
     QObject::connect(boto, &QAbstractButton::clicked, &formulari, [&crida] { Cridar(crida); });
+    auto* camp = qobject_cast<QLineEdit*>(Camp_Que_Crida(crida, formulari));
+    if (camp != nullptr) camp->installEventFilter(new Tecles_De_Llista(camp, *boto, crida));
   }
 }
 

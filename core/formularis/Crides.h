@@ -46,9 +46,9 @@ const Crida* Crida_Pendent(const QString& llista);
 // the list are unloaded. False, and nothing done, without a pending call or a current row.
 bool Tornar_Fila(Formulari& llista);
 
-// The buttons of a form that open lists for its fields.
+// The buttons of a form that open lists for its fields, and F4 and Alt+Down in those fields.
 void Connectar_Crides(Formulari& formulari);
-// Sets the tag and opens the list.
+// Sets the tag and opens the list, on the row of the code that the field holds.
 void Cridar(const Crida& crida);
 // The list has gone: the next opening from the menu finds no tag of it.
 void Oblidar_Crida(const QString& llista);

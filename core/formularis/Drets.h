@@ -16,6 +16,7 @@ enum class Mena_Drets {
   Llista,            // controls enabled with M
   Llista_Editable,   // the same, and the grid takes changes
   Editor,            // controls enabled unless the letter is C
+  Editor_Amb_M,      // an editor that asks for M
   Sense_Lletra,      // enabled by the condition alone
   Sempre_Desactivat  // whatever the letter is
 };
@@ -33,7 +34,8 @@ std::span<const Fila_Drets> Taula_De_Drets();
 // The table, handed over by the shell, which knows every form.
 void Fixar_Drets(std::span<const Fila_Drets> taula);
 
-// Applies the rows of a loaded form, passing over the controls that it has not. Nothing for a form without rows.
+// Applies the rows of a loaded form, passing over the controls that it has not. Nothing for a form without rows. An
+// editor none of whose rows is granted lets nothing be changed, whatever controls its rows name.
 void Aplicar_Taula_De_Drets(Formulari& formulari);
 
 // The form is a list whose rows are edited in its grid.

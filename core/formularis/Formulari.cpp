@@ -4,9 +4,12 @@
 #include <QKeyEvent>
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/controls/Camps.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Control_Interface.h"
 #include "core/formularis/Drets.h"
+#include "core/formularis/Finestres.h"
+#include "core/formularis/Motius.h"
 #include "core/formularis/Teclat.h"
 
 namespace {
@@ -15,6 +18,10 @@ namespace {
 Error_Brollador Com_A_Error(const std::exception& error) {
   if (const auto* propi = dynamic_cast<const Error_Brollador*>(&error)) return *propi;
   return {errors::general, "Brollador", error.what()};
+}
+
+void Mostrar_Pendents() {
+  if (Pantalla* pantalla = sessio.pantalla) pantalla->Mostrar_Pendents();
 }
 
 // The busy pointer while it lives.
@@ -32,6 +39,7 @@ Formulari::Formulari(const QString& nom) {
   setObjectName(nom);
   setAttribute(Qt::WA_DeleteOnClose);
   setFocusPolicy(Qt::ClickFocus);
+  Vigilar_Aplicacio();
 }
 
 void Formulari::Guardar_Event(const std::function<void()>& rutina, const std::function<void()>& despres_d_un_error) {
@@ -39,10 +47,11 @@ void Formulari::Guardar_Event(const std::function<void()>& rutina, const std::fu
   sessio.Error_Mostrat = false;
   try {
     rutina();
+    Mostrar_Pendents();
   } catch (const std::exception& error) {
     const Error_Brollador propi = Com_A_Error(error);
-    Desfer_Transaccio();
     Alliberar_Entrada();
+    Mostrar_Pendents();
     try {
       if (despres_d_un_error) despres_d_un_error();
     } catch (const std::exception& segon) {
@@ -66,14 +75,16 @@ QWidget* Formulari::Cercar_Control(const QString& nom) const {
 
 void Formulari::Boto_De_Pantalla(const QString& boto, const QString& formulari) {
   auto* control = Control_De_Nom<QWidget>(boto);
-  control->setProperty("pantalla", formulari);
+  control->setProperty(propietat_pantalla, formulari);
   Habilitar_Control(*control, true);
 }
 
 void Formulari::closeEvent(QCloseEvent* event) {
+  if (!Pot_Tancar()) return event->ignore();
   event->accept();
   if (descarregat_) return;
   descarregat_ = true;
+  Guardar_Event([this] { Deixar_El_Camp_En_Tancar(this); });
   for (const auto* graella : findChildren<Graella*>()) graella->Desar_Amplades();
   Recordar_Mida(this);
   Guardar_Event([this] { Descarregar(); });

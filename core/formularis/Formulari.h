@@ -18,9 +18,11 @@ class Formulari : public QWidget {
   QString Nom() const { return objectName(); }
   bool Es_Tanca() const { return descarregat_; }
 
-  virtual void Carregar() {}     // once, before it is shown
-  virtual void Activar() {}      // each time it comes to the front
-  virtual void Descarregar() {}  // when it is closed; an error is shown and it closes all the same
+  virtual void Carregar() {}                        // once, before it is shown
+  virtual void Activar() {}                         // each time it comes to the front
+  virtual void Descarregar() {}                     // when it is closed; an error is shown and it closes all the same
+  virtual void Tornar_A_Obrir() {}                  // it was open already when somebody opened it, maybe on another row
+  virtual bool Pot_Tancar() const { return true; }  // false: the window stays, whatever asks it to go
   virtual void Aplicar_Drets();  // controls by the rights of the session: what the table of rights says
 
   // A control by its name in any case; null when the form has none.
@@ -34,14 +36,26 @@ class Formulari : public QWidget {
   virtual Graella* Graella_Llista() { return nullptr; }
   // Before Recordset_Llista is requeried by a form that closes: for a list over a table that has to be filled again.
   virtual void Preparar_Requery() {}
+  // Its grid is a table whose rows are edited in place, by whoever has the right.
+  virtual bool Es_Taula_Editable() const { return false; }
   // Kept above the other forms.
   virtual bool Sempre_A_Dalt() const { return false; }
+  // Opens as large as the area, unless the user gave it another size.
+  virtual bool Vol_Tot_El_Lloc() const { return false; }
+
+  // What the status line tells of the form in front: the document or row that it shows; empty: it shows none.
+  virtual QString Que_Mostra() const { return {}; }
+  // All that was typed in it is saved.
+  virtual bool Tot_Desat() const { return true; }
+  // Why a control of the form cannot be used now, beside rights and screens that this program lacks; empty: nothing to
+  // say.
+  virtual QString Per_Que_No(const QWidget& /*control*/) const { return {}; }
   // The document behind a document editor, for the rules.
   virtual Document_Obert* Document() { return nullptr; }
 
   // Runs an event routine under the system's guard: busy pointer around it, and an error of any kind ends in the
-  // system's box (once: Error_Mostrat) with the open transaction rolled back, the input released and
-  // `despres_d_un_error` run.
+  // system's box (once: Error_Mostrat) with the input released and `despres_d_un_error` run. What the routine began in
+  // a transaction is undone by then; one that was open before is its owner's matter.
   static void Guardar_Event(const std::function<void()>& rutina, const std::function<void()>& despres_d_un_error = {});
 
  protected:

@@ -65,3 +65,15 @@ std::optional<int> Amplada_Recordada(const QString& formulari, const QString& gr
 void Recordar_Amplada(const QString& formulari, const QString& graella, const QString& camp, int amplada, int propia) {
   Escriure(Clau_Amplada(formulari, graella, camp), amplada, amplada == propia);
 }
+
+namespace {
+const QString clau_principal = QStringLiteral("*/principal");  // no code of a user is written with a star
+}
+
+QByteArray Estat_Recordat() {
+  return QByteArray::fromBase64(QSettings(Fitxer(), QSettings::IniFormat).value(clau_principal).toString().toLatin1());
+}
+
+void Recordar_Estat(const QByteArray& estat) {
+  QSettings(Fitxer(), QSettings::IniFormat).setValue(clau_principal, QString::fromLatin1(estat.toBase64()));
+}

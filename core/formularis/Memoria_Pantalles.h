@@ -1,8 +1,9 @@
 // What each user of this terminal did to the windows: their sizes and the widths of their columns, in a file of the
 // data folder. A file that is missing, damaged or cannot be written is as good as an empty one. Before a login nothing
-// is remembered.
+// but the main window is remembered.
 #pragma once
 
+#include <QByteArray>
 #include <QSize>
 #include <QString>
 #include <optional>
@@ -13,3 +14,8 @@ void Recordar_Mida(const QString& formulari, QSize mida, QSize propia);
 
 std::optional<int> Amplada_Recordada(const QString& formulari, const QString& graella, const QString& camp);
 void Recordar_Amplada(const QString& formulari, const QString& graella, const QString& camp, int amplada, int propia);
+
+// Place, size and state of the main window, which is there before anybody logs in: the terminal's, not a user's. Empty
+// when nothing is remembered.
+QByteArray Estat_Recordat();
+void Recordar_Estat(const QByteArray& estat);

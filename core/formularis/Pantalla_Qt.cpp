@@ -1,8 +1,10 @@
 #include "core/formularis/Pantalla_Qt.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <stdexcept>
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/formularis/Control_Interface.h"
@@ -34,8 +36,21 @@ QMessageBox::Icon Icona_De(int estil) {
   }
 }
 
+// A box of few words is as wide as its title, with the window's buttons beside it.
+void Fer_Lloc_Al_Titol(QMessageBox& caixa) {
+  constexpr int botons_de_finestra = 140;
+  const int amplada = caixa.fontMetrics().horizontalAdvance(caixa.windowTitle()) + botons_de_finestra;
+  if (auto* quadricula = qobject_cast<QGridLayout*>(caixa.layout())) {
+    auto* lloc = new QSpacerItem(amplada, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    quadricula->addItem(lloc, quadricula->rowCount(), 0, 1, quadricula->columnCount());
+  }
+}
+
+// What the user does, closing a window and ending the program among it.
 bool Es_Entrada_De_Usuari(QEvent::Type tipus) {
   switch (tipus) {
+    case QEvent::Close:
+    case QEvent::Quit:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
     case QEvent::ShortcutOverride:
@@ -54,13 +69,24 @@ bool Es_Entrada_De_Usuari(QEvent::Type tipus) {
   }
 }
 
+// Whatever waits for the user, not only the boxes of the rules: a mistake of ours stops at once.
+void Exigir_Que_No_Esperi_Ningu(const QObject* objecte) {
+  const auto* finestra = qobject_cast<const QWidget*>(objecte);
+  if (finestra == nullptr || !finestra->isModal()) return;
+  try {
+    Exigir_Res_Escrit(finestra->windowTitle().toStdString());
+  } catch (const std::logic_error& error) {
+    qFatal("%s", error.what());
+  }
+}
+
 }  // namespace
 
 Pantalla_Qt::Pantalla_Qt() {
   qApp->installEventFilter(this);
 }
 
-Resposta Pantalla_Qt::Caixa(const std::string& text, int estil, const std::string& titol) {
+Resposta Pantalla_Qt::Obrir_Caixa(const std::string& text, int estil, const std::string& titol) {
   const QString escrit = Qt_Text(text);
   if (Contestador) return Contestador(escrit, estil, Qt_Text(titol));
   QMessageBox caixa(Icona_De(estil), Qt_Text(titol), escrit, QMessageBox::NoButton, QApplication::activeWindow());
@@ -78,6 +104,7 @@ Resposta Pantalla_Qt::Caixa(const std::string& text, int estil, const std::strin
                  : boto("&Cancel·lar", "&Cancelar", "&Cancel", QMessageBox::RejectRole);
     caixa.setEscapeButton(nega);
   }
+  Fer_Lloc_Al_Titol(caixa);
   QApplication::setOverrideCursor(Qt::ArrowCursor);
   caixa.exec();
   QApplication::restoreOverrideCursor();
@@ -112,11 +139,15 @@ void Pantalla_Qt::Alliberar_Entrada() {
 }
 
 bool Pantalla_Qt::eventFilter(QObject* objecte, QEvent* event) {
-  if (bloquejada_ && Es_Entrada_De_Usuari(event->type())) return true;
+  if (event->type() == QEvent::Show) Exigir_Que_No_Esperi_Ningu(objecte);
+  if (bloquejada_ && Es_Entrada_De_Usuari(event->type())) {
+    event->ignore();  // a window that asks whether it may close hears no
+    return true;
+  }
   return QObject::eventFilter(objecte, event);
 }
 
-std::string Pantalla_Qt::Triar_Empresa(const std::string& actual, int idioma) {
+std::string Pantalla_Qt::Obrir_Tria_Empresa(const std::string& actual, int idioma) {
   if (Triador_Empresa) return Triador_Empresa(actual, idioma);
   QApplication::setOverrideCursor(Qt::ArrowCursor);
   std::string triada = serveis.triar_empresa ? serveis.triar_empresa(actual) : std::string();
@@ -134,5 +165,8 @@ void Pantalla_Qt::Menu_Marcat(std::string_view entrada, bool marcat) {
   Finestra_Principal::Unica()->Accio(Qt_Text(entrada))->setChecked(marcat);
 }
 void Pantalla_Qt::Menu_Text(std::string_view entrada, const std::string& text) {
-  Finestra_Principal::Unica()->Accio(Qt_Text(entrada))->setText(Qt_Text(text).replace(u'&', QStringLiteral("&&")));
+  // Its first letter is its key.
+  Finestra_Principal::Unica()
+      ->Accio(Qt_Text(entrada))
+      ->setText(u'&' + Qt_Text(text).replace(u'&', QStringLiteral("&&")));
 }

@@ -18,20 +18,19 @@ class Pantalla_Qt : public QObject, public Pantalla {
 
   Pantalla_Qt();
 
-  using Pantalla::Caixa;
-  Resposta Caixa(const std::string& text, int estil, const std::string& titol) override;
   bool Formulari_Carregat(std::string_view nom) const override;
   Document_Obert* Document(std::string_view nom_formulari) override;
   void Processar_Events() override;
   void Bloquejar_Entrada() override;
   void Alliberar_Entrada() override;
-  std::string Triar_Empresa(const std::string& actual, int idioma) override;
   void Menu_Habilitat(std::string_view entrada, bool habilitat) override;
   void Menu_Visible(std::string_view entrada, bool visible) override;
   void Menu_Marcat(std::string_view entrada, bool marcat) override;
   void Menu_Text(std::string_view entrada, const std::string& text) override;
 
  protected:
+  Resposta Obrir_Caixa(const std::string& text, int estil, const std::string& titol) override;
+  std::string Obrir_Tria_Empresa(const std::string& actual, int idioma) override;
   bool eventFilter(QObject* objecte, QEvent* event) override;
 
  private:

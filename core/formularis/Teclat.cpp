@@ -24,6 +24,13 @@ bool Admet_Salts(const QWidget& formulari, const QWidget& camp) {
   return false;
 }
 
+// A button that opens the list of the field beside it is for the mouse, and for Tab.
+bool Obre_Una_Llista(const QWidget* camp) {
+  const auto* boto = qobject_cast<const QAbstractButton*>(camp);
+  return boto != nullptr && boto->text().remove(u'&') == u"...";
+}
+constexpr int maxim_passos = 20;  // a form of nothing but such buttons
+
 }  // namespace
 
 bool Punt_Per_Coma(const QKeyEvent& tecla, QLineEdit& camp) {
@@ -41,7 +48,10 @@ bool Enter_Avanca(const QKeyEvent& tecla, QWidget& formulari) {
     boto->click();
     return true;
   }
-  Premer_Tab(formulari);
+  int passos = 0;
+  do {
+    Premer_Tab(formulari);
+  } while (Obre_Una_Llista(formulari.focusWidget()) && ++passos < maxim_passos);
   if (auto* text = qobject_cast<QLineEdit*>(formulari.focusWidget())) text->selectAll();
   return true;
 }

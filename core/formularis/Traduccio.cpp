@@ -9,6 +9,8 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QTabWidget>
+#include <functional>
+#include <vector>
 
 #include "core/M_Textos.h"
 #include "core/controls/Controls.h"
@@ -16,6 +18,7 @@
 #include "core/formularis/Control_Interface.h"
 #include "core/formularis/Finestra_Principal.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Llengua_Qt.h"
 
 namespace {
 
@@ -43,65 +46,51 @@ QObject* Cercar_Control(QWidget* finestra, const QString& nom) {
   return nullptr;
 }
 
-// Each returns false when the control has no such property.
-bool Posar_Titol(QObject* control, const QString& text, int index) {
+// What puts a text in its place; empty when the control has no such property.
+using Posada = std::function<void()>;
+
+Posada Posar_Titol(QObject* control, const QString& text, int index) {
   if (auto* graella = qobject_cast<Graella*>(control); graella != nullptr && index >= 0) {
-    graella->Titol_Columna(index, text);
-  } else if (auto* opcions = qobject_cast<Grup_Opcions*>(control); opcions != nullptr && index >= 0) {
-    opcions->Titol_Opcio(index, text);
-  } else if (auto* accio = qobject_cast<QAction*>(control)) {
-    accio->setText(text);
-  } else if (auto* menu = qobject_cast<QMenu*>(control)) {
-    menu->setTitle(text);
-  } else if (auto* etiqueta = qobject_cast<QLabel*>(control)) {
-    etiqueta->setText(text);
-  } else if (auto* boto = qobject_cast<QAbstractButton*>(control)) {
-    boto->setText(text);
-  } else if (auto* grup = qobject_cast<QGroupBox*>(control)) {
-    grup->setTitle(text);
-  } else if (qobject_cast<Formulari*>(control) != nullptr || qobject_cast<Finestra_Principal*>(control) != nullptr) {
-    static_cast<QWidget*>(control)->setWindowTitle(text);
-  } else {
-    return false;
+    return [=] { graella->Titol_Columna(index, text); };
   }
-  return true;
+  if (auto* opcions = qobject_cast<Grup_Opcions*>(control); opcions != nullptr && index >= 0) {
+    return [=] { opcions->Titol_Opcio(index, text); };
+  }
+  if (auto* accio = qobject_cast<QAction*>(control)) return [=] { accio->setText(text); };
+  if (auto* menu = qobject_cast<QMenu*>(control)) return [=] { menu->setTitle(text); };
+  if (auto* etiqueta = qobject_cast<QLabel*>(control)) return [=] { etiqueta->setText(text); };
+  if (auto* boto = qobject_cast<QAbstractButton*>(control)) return [=] { boto->setText(text); };
+  if (auto* grup = qobject_cast<QGroupBox*>(control)) return [=] { grup->setTitle(text); };
+  if (qobject_cast<Formulari*>(control) != nullptr || qobject_cast<Finestra_Principal*>(control) != nullptr) {
+    return [=] { static_cast<QWidget*>(control)->setWindowTitle(text); };
+  }
+  return {};
 }
 
-bool Posar_Text(QObject* control, const QString& text) {
-  if (auto* camp = qobject_cast<QLineEdit*>(control)) {
-    camp->setText(text);
-  } else if (auto* llarg = qobject_cast<QPlainTextEdit*>(control)) {
-    llarg->setPlainText(text);
-  } else {
-    return false;
-  }
-  return true;
+Posada Posar_Text(QObject* control, const QString& text) {
+  if (auto* camp = qobject_cast<QLineEdit*>(control)) return [=] { camp->setText(text); };
+  if (auto* llarg = qobject_cast<QPlainTextEdit*>(control)) return [=] { llarg->setPlainText(text); };
+  return {};
 }
 
-bool Posar_Pestanya(QObject* control, const QString& text, int index) {
+Posada Posar_Pestanya(QObject* control, const QString& text, int index) {
   auto* pestanyes = qobject_cast<QTabWidget*>(control);
-  if (pestanyes == nullptr || index < 0) return false;
-  pestanyes->setTabText(index, text);
-  return true;
+  if (pestanyes == nullptr || index < 0) return {};
+  return [=] { pestanyes->setTabText(index, text); };
 }
 
-bool Posar_Ajuda(QObject* control, const QString& text) {
-  if (auto* accio = qobject_cast<QAction*>(control)) {
-    accio->setToolTip(text);
-  } else if (auto* widget = qobject_cast<QWidget*>(control)) {
-    widget->setToolTip(text);
-  } else {
-    return false;
-  }
-  return true;
+Posada Posar_Ajuda(QObject* control, const QString& text) {
+  if (auto* accio = qobject_cast<QAction*>(control)) return [=] { accio->setToolTip(text); };
+  if (auto* widget = qobject_cast<QWidget*>(control)) return [=] { widget->setToolTip(text); };
+  return {};
 }
 
-bool Posar_Propietat(QObject* control, const QString& propietat, const QString& text, int index) {
+Posada Posar_Propietat(QObject* control, const QString& propietat, const QString& text, int index) {
   if (propietat == u"CAPTION") return Posar_Titol(control, text, index);
   if (propietat == u"TEXT") return Posar_Text(control, text);
   if (propietat == u"TABCAPTION") return Posar_Pestanya(control, text, index);
   if (propietat == u"TOOLTIPTEXT") return Posar_Ajuda(control, text);
-  return true;  // a property that the system does not know is no text of a control
+  return [] {};  // a property that the system does not know is no text of a control
 }
 
 QWidget* Finestra_De_Nom(const QString& nom) {
@@ -111,15 +100,20 @@ QWidget* Finestra_De_Nom(const QString& nom) {
 
 }  // namespace
 
+// All of them or none: a form with a wrong row keeps the words that it has.
 void Traduir_Formulari(const QString& nom) {
+  Traduir_Toolkit();
   QWidget* finestra = Finestra_De_Nom(nom.toUpper());
   if (finestra == nullptr) return;
+  std::vector<Posada> posades;
   for (const auto& fila : Textos_De(nom.toUpper().toStdString())) {
     const Adreca adreca = Llegir_Adreca(QString::fromStdString(fila.control));
     QObject* control = Cercar_Control(finestra, adreca.control);
     if (control == nullptr) continue;
     const QString propietat = QString::fromStdString(fila.propietat).toUpper();
-    if (Posar_Propietat(control, propietat, QString::fromStdString(fila.text), adreca.index)) continue;
+    posades.push_back(Posar_Propietat(control, propietat, QString::fromStdString(fila.text), adreca.index));
+    if (posades.back()) continue;
     throw Error_Brollador(propietat_inexistent, "Traduir_Formulari", fila.control + ": " + fila.propietat);
   }
+  for (const Posada& posada : posades) posada();
 }

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <algorithm>
 
 #include "core/M_Funcions_Comuns.h"
@@ -32,7 +33,7 @@ void Fitxa::En_Deixar(QWidget* camp, std::function<void()> rutina) {
 }
 
 void Fitxa::Descriure(QLineEdit* codi, QLineEdit* descripcio, const Referencia& referencia) {
-  descripcions_.push_back({codi, descripcio, referencia, {}});
+  descripcions_.push_back({codi, descripcio, referencia, {}, {}});
 }
 
 void Fitxa::Seguir_CP(QLineEdit* cp, QLineEdit* localitat) {
@@ -53,18 +54,26 @@ void Fitxa::Boto_Sortir(QPushButton* boto) {
   connect(boto, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
 }
 
-void Fitxa::Afegir_Fila(Recordset& fila, const std::string& taula, const std::string& sentencia) {
+// No edit of a field lasts: nobody else has to be kept from the row meanwhile.
+void Fitxa::Afegir_Fila(Recordset& fila, const std::string& taula, std::function<std::string()> sentencia,
+                        std::function<void()> assegurar) {
   fila.Unique_Table(taula);
-  fila.Open(sentencia, sessio.Connexio_Comuna, Bloqueig::Pessimista);
-  files_.push_back(&fila);
+  files_.push_back({&fila, std::move(sentencia), std::move(assegurar)});
+  Obrir_Fila(files_.back());
   for (Lligam& camp : Lligams_De(*this, fila)) camps_.push_back(std::move(camp));
+}
+
+void Fitxa::Obrir_Fila(const Fila& fila) {
+  if (fila.assegurar) fila.assegurar();
+  if (fila.rs->State()) return fila.rs->Reopen(fila.sentencia());
+  fila.rs->Open(fila.sentencia(), sessio.Connexio_Comuna, Bloqueig::Optimista);
 }
 
 // ---- Showing ----------------------------------------------------------------------------------------------------
 
 // Raises 80040E38 when the row is there no more.
 void Fitxa::Carregar() {
-  Afegir_Fila(rs_, taula_, Sentencia());
+  Afegir_Fila(rs_, taula_, [this] { return Sentencia(); });
   if (rs_.RecordCount() == 0) Llancar_Error(errors::concurrencia, Nom().toStdString());
   Abans_De_Mostrar();
   Mostrar_Fila();
@@ -80,14 +89,15 @@ void Fitxa::Mostrar_Fila() {
   Mostrar_Altres();
 }
 
-// A code is looked up when it is another one.
+// A code is looked up when it is another one, or when its field was left.
 void Fitxa::Mostrar_Descripcions() {
   for (Descripcio& descripcio : descripcions_) {
     const QString codi = descripcio.codi->text();
     if (codi == descripcio.descrit && !codi.isNull()) continue;
+    descripcio.descripcio =
+        codi.isEmpty() ? QString() : QString::fromStdString(Descripcio_De(descripcio.referencia, codi.toStdString()));
     descripcio.descrit = codi;
-    descripcio.text->setText(
-        codi.isEmpty() ? QString() : QString::fromStdString(Descripcio_De(descripcio.referencia, codi.toStdString())));
+    descripcio.text->setText(descripcio.descripcio);
     descripcio.text->setCursorPosition(0);
     descripcio.text->setModified(false);
   }
@@ -114,6 +124,7 @@ bool Fitxa::Te_Canvis() const {
 }
 
 bool Fitxa::Admet(const Lligam& camp) const {
+  if (camp.Control() == admes_) return true;
   const auto exigencia = exigencies_.find(camp.Control());
   return exigencia == exigencies_.end() || !camp.Canviat() || exigencia->second.admet();
 }
@@ -123,16 +134,32 @@ bool Fitxa::Admet(const Lligam& camp) const {
 void Fitxa::Deixar(Lligam& camp) {
   if (!rs_.State() || rs_.RecordCount() == 0) return;
   bool desat = false;
+  QString motiu;
   Guardar_Event([&] {
     if (!Admet(camp)) return exigencies_.at(camp.Control()).avis();
-    for (const auto& rutina : en_deixar_[camp.Control()]) rutina();
-    if (Te_Canvis()) Desar();
+    try {
+      const QScopedValueRollback<const QWidget*> admes(admes_, camp.Control());
+      Acceptar(camp);
+    } catch (const Error_Brollador& error) {
+      motiu = QString::fromStdString(error.Descripcio());
+      throw;
+    }
     desat = true;
   });
-  if (rs_.RecordCount() == 0) return Descarregar_Formulari(Nom());
+  if (rs_.RecordCount() == 0 && !Es_Tanca()) return Descarregar_Formulari(Nom());
   if (desat || !camp.Canviat()) return;
-  if (camp.Es_De_Text()) Retenir_Focus(camp.Control());
+  if (camp.Es_De_Text()) Retenir_Focus(camp.Control(), motiu);
   if (!camp.Es_De_Text() || !Focus_Retingut()) camp.Mostrar();
+}
+
+// Others may have changed what a code stands for: it is looked up again each time.
+void Fitxa::Acceptar(const Lligam& camp) {
+  for (const auto& rutina : en_deixar_[camp.Control()]) rutina();
+  for (Descripcio& descripcio : descripcions_) {
+    if (descripcio.codi == camp.Control()) descripcio.descrit = QString();
+  }
+  if (Te_Canvis()) return Desar();
+  Mostrar_Descripcions();
 }
 
 // What fails is not left pending.
@@ -147,36 +174,51 @@ void Fitxa::Desar() {
   Aplicar_Drets();
 }
 
+// One row is one statement, which stands or falls by itself.
 void Fitxa::Escriure() {
-  Transaccio transaccio;
   for (const Lligam& camp : camps_) {
     if (camp.Canviat() && Admet(camp)) camp.Posar();
   }
   Abans_De_Desar();
-  for (Recordset* fila : files_) {
-    if (fila->EditMode() != Edicio::Cap) fila->Update();
+  std::vector<Recordset*> pendents;
+  for (const Fila& fila : files_) {
+    if (fila.rs->EditMode() != Edicio::Cap) pendents.push_back(fila.rs);
   }
+  if (pendents.size() == 1) return pendents.front()->Update();
+  Transaccio transaccio(sessio.Connexio_Comuna);
+  Abans_D_Escriure();
+  for (Recordset* rs : pendents) rs->Update();
   transaccio.Confirmar();
 }
 
-// After a change by another terminal the row is read and shown again.
+// After a change by another terminal all rows are read and shown again, each from its own statement.
 void Fitxa::Recuperar(const Error_Brollador& error) {
-  Desfer_Transaccio();
-  for (Recordset* fila : files_) fila->CancelUpdate();
+  for (const Fila& fila : files_) fila.rs->CancelUpdate();
   if (error.Numero() != errors::concurrencia) return;
-  rs_.Reopen(Sentencia());
-  if (rs_.RecordCount() > 0) Mostrar_Fila();
+  for (const Fila& fila : files_) {
+    Obrir_Fila(fila);
+    if (rs_.RecordCount() == 0) return;
+  }
+  Mostrar_Fila();
 }
 
-// A description that was typed finds its code, which is saved; one that is nobody's goes back.
+// A description that was typed finds its code, which is saved; one that is nobody's, or that cannot be looked for, goes
+// back to that of the code.
 void Fitxa::Buscar_Codi(Descripcio& descripcio) {
   if (!descripcio.text->isModified()) return;
   const QString text = descripcio.text->text().trimmed();
+  descripcio.text->setText(descripcio.descripcio);
   const QString codi =
       text.isEmpty() ? QString() : QString::fromStdString(Codi_De(descripcio.referencia, text.toStdString()));
   descripcio.descrit = QString();
   if (text.isEmpty() || !codi.isEmpty()) descripcio.codi->setText(codi);
-  if (Te_Canvis()) Desar();
+  try {
+    if (Te_Canvis()) Desar();
+  } catch (const Error_Brollador&) {
+    if (Lligam* camp = Camp_De_Control(descripcio.codi)) camp->Mostrar();
+    Mostrar_Descripcions();
+    throw;
+  }
   Mostrar_Descripcions();
 }
 
@@ -192,5 +234,24 @@ void Fitxa::Descarregar() {
   for (Lligam& camp : camps_) {
     if (rs_.RecordCount() > 0 && camp.Canviat()) Deixar(camp);
   }
-  for (Recordset* fila : files_) fila->Close();
+  for (const Fila& fila : files_) fila.rs->Close();
+}
+
+// By its key, the first column of its table.
+QString Fitxa::Que_Mostra() const {
+  if (!rs_.State() || rs_.RecordCount() == 0) return {};
+  return windowTitle() + u' ' + QString::fromStdString(rs_[0].Text());
+}
+
+// The row that the session names by now: the fields of the old one have been left.
+void Fitxa::Tornar_A_Obrir() {
+  for (const Fila& fila : files_) {
+    Obrir_Fila(fila);
+    if (rs_.RecordCount() > 0) continue;
+    Descarregar_Formulari(Nom());
+    Llancar_Error(errors::concurrencia, Nom().toStdString());
+  }
+  Mostrar_Fila();
+  Aplicar_Drets();
+  vista_ = false;
 }

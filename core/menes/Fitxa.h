@@ -25,12 +25,16 @@ class Fitxa : public Formulari {
   void Carregar() override;
   void Activar() override;
   void Descarregar() override;
+  void Tornar_A_Obrir() override;
+  QString Que_Mostra() const override;
+  bool Tot_Desat() const override { return !Te_Canvis(); }
 
  protected:
   virtual std::string Sentencia() const = 0;  // of the row
   virtual void Abans_De_Mostrar() {}          // combos, grids and further rows, once
   virtual void Mostrar_Altres() {}            // what stands in no column, each time the row is shown
   virtual void Abans_De_Desar() {}            // further columns of the rows that are written
+  virtual void Abans_D_Escriure() {}          // further statements before those of several rows, in their transaction
 
   // The field takes only what `admet` says; `avis` tells the user why not.
   struct Exigencia {
@@ -48,8 +52,9 @@ class Fitxa : public Formulari {
   void Seguir_CP(QLineEdit* cp, QLineEdit* localitat);
   void Boto_Sortir(QPushButton* boto);
 
-  // One more row on the form, of another table.
-  void Afegir_Fila(Recordset& fila, const std::string& taula, const std::string& sentencia);
+  // One more row on the form, of another table; `assegurar` adds it where it is missing.
+  void Afegir_Fila(Recordset& fila, const std::string& taula, std::function<std::string()> sentencia,
+                   std::function<void()> assegurar = {});
 
   Recordset rs_;
 
@@ -58,12 +63,20 @@ class Fitxa : public Formulari {
     QLineEdit* codi;
     QLineEdit* text;
     Referencia referencia;
-    QString descrit;  // the code that the text describes
+    QString descrit;  // the code that the text describes; null: it has to be looked up
+    QString descripcio;
   };
+  struct Fila {
+    Recordset* rs;
+    std::function<std::string()> sentencia;
+    std::function<void()> assegurar;
+  };
+  static void Obrir_Fila(const Fila& fila);
   void Mostrar_Fila();
   void Mostrar_Descripcions();
   void Buscar_Codi(Descripcio& descripcio);
   void Deixar(Lligam& camp);
+  void Acceptar(const Lligam& camp);
   bool Te_Canvis() const;
   bool Admet(const Lligam& camp) const;
   void Desar();
@@ -73,10 +86,11 @@ class Fitxa : public Formulari {
   void keyPressEvent(QKeyEvent* event) override;
 
   std::string taula_;
-  std::vector<Recordset*> files_;
+  std::vector<Fila> files_;
   std::vector<Lligam> camps_;
   std::map<const QWidget*, Exigencia> exigencies_;
   std::map<const QWidget*, std::vector<std::function<void()>>> en_deixar_;
   std::vector<Descripcio> descripcions_;
+  const QWidget* admes_ = nullptr;  // the field that has been asked already whether it takes what it holds
   bool vista_ = false;
 };

@@ -18,7 +18,7 @@ class Llista_Mestra : public Llista {
   Llista_Mestra(const QString& nom, const Descripcio_Mestra& descripcio) : Llista(nom), mestra_(descripcio) {}
 
  protected:
-  void Nou() override { Obrir_Editor(mestra_.nou()); }
+  void Nou() override;
   void Obrir_Fila() override;
   void Esborrar_Fila() override;
   void Obrir_Editor(const std::string& codi);

@@ -7,20 +7,19 @@
 
 Informe::Informe(const Definicio_Informe& definicio) : definicio_(definicio) {
   for (const auto& control : definicio_.controls) {
-    Estat estat{.control = &control, .text = control.text, .dalt = control.lloc.y(), .mascara = {}, .imatge = {}};
-    estats_.push_back(std::move(estat));
+    estats_.push_back({.control = &control, .text = control.text, .lloc = control.lloc});
   }
 }
 
-const Informe::Estat& Informe::Cercar(const QString& nom) const {
+const Estat_Control& Informe::Cercar(const QString& nom) const {
   for (const auto& estat : estats_) {
     if (nom.compare(estat.control->nom, Qt::CaseInsensitive) == 0) return estat;
   }
   Llancar_Error(errors::camp_no_trobat, definicio_.nom, nom.toStdString());
 }
 
-Informe::Estat& Informe::Cercar(const QString& nom) {
-  return const_cast<Estat&>(std::as_const(*this).Cercar(nom));
+Estat_Control& Informe::Cercar(const QString& nom) {
+  return const_cast<Estat_Control&>(std::as_const(*this).Cercar(nom));
 }
 
 void Informe::Caption(const QString& control, const QString& text) {
@@ -35,11 +34,19 @@ void Informe::Visible(const QString& control, bool visible) {
 void Informe::Top(const QString& control, int twips) {
   Cercar(control).dalt = twips;
 }
+void Informe::Amplada(const QString& control, int esquerra, int amplada) {
+  QRect& lloc = Cercar(control).lloc;
+  lloc = {esquerra, lloc.y(), amplada, lloc.height()};
+}
 void Informe::Data_Format(const QString& control, const char* mascara) {
   Cercar(control).mascara = mascara;
 }
-void Informe::Picture(const QString& control, const QString& fitxer) {
-  Cercar(control).imatge = QImage(fitxer);
+void Informe::Picture(const QString& control, const QImage& imatge) {
+  Cercar(control).imatge = imatge;
+}
+QSize Informe::Mida_Imatge(const QString& control) const {
+  const Estat_Control& estat = Cercar(control);
+  return estat.imatge.isNull() ? QSize(0, 0) : estat.imatge.size().scaled(estat.lloc.size(), Qt::KeepAspectRatio);
 }
 
 void Informe::Traduir() {

@@ -42,6 +42,8 @@ QColor Color(Tinta tinta) {
       return {0x55, 0x5F, 0x69};
     case Tinta::Clara:
       return {0xB8, 0xC0, 0xC8};
+    case Tinta::Negra:
+      return Qt::black;
     case Tinta::Fosca:
       break;
   }

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-enum class Tinta { Fosca, Grisa, Clara };
+enum class Tinta { Fosca, Grisa, Clara, Negra };
 
 struct Estil_Lletra {
   double punts = 9;

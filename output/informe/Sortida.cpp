@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPageLayout>
 #include <QPainter>
@@ -69,7 +70,17 @@ QPageLayout Full_A4(const Pagines& pagines) {
   return {QPageSize(QPageSize::A4), pagines.apaisades ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
 }
 
+const QString extensio = QStringLiteral(".pdf");
+
+bool Sobreescriure(const QString& fitxer) {
+  const std::string pregunta =
+      Missatge("Aquest fitxer ja existeix. El vols substituir?", "Este archivo ya existe. ¿Quieres sustituirlo?",
+               "This file exists already. Do you want to replace it?");
+  return sessio.pantalla->Caixa(pregunta + "\n" + fitxer.toStdString(), estil::pregunta | estil::si_no) == Resposta::Si;
+}
+
 QString carpeta_treballs;
+std::function<int()> copies_treballs;
 QString darrer_treball;
 int treballs = 0;
 
@@ -111,24 +122,51 @@ bool Demanar_Impressora(const Pagines& pagines, QWidget* pare) {
   return true;
 }
 
+QString Nom_De_Fitxer(QString text) {
+  for (QChar& lletra : text) {
+    if (lletra == u'/' || lletra == u'\\' || !lletra.isPrint()) lletra = u'-';
+  }
+  return text.startsWith(u'.') ? u'-' + text : text;
+}
+
+// A name typed without its extension takes it, and the dialog asks about the file that it then is.
 bool Demanar_PDF(const Pagines& pagines, QWidget* pare) {
-  const QString carpeta = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString fitxer = QFileDialog::getSaveFileName(
-      pare, Paraula("Desar com a PDF", "Guardar como PDF", "Save as PDF"),
-      carpeta + u'/' + pagines.titol + QStringLiteral(".pdf"), QStringLiteral("PDF (*.pdf)"));
-  if (fitxer.isEmpty()) return false;
+  QFileDialog dialeg(pare, Paraula("Desar com a PDF", "Guardar como PDF", "Save as PDF"),
+                     QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                     QStringLiteral("PDF (*.pdf)"));
+  dialeg.setAcceptMode(QFileDialog::AcceptSave);
+  dialeg.setDefaultSuffix(QStringLiteral("pdf"));
+  dialeg.selectFile(Nom_De_Fitxer(pagines.titol) + extensio);
+  if (dialeg.exec() != QDialog::Accepted || dialeg.selectedFiles().isEmpty()) return false;
+  QString fitxer = dialeg.selectedFiles().constFirst();
+  if (!fitxer.endsWith(extensio, Qt::CaseInsensitive)) {
+    fitxer += extensio;
+    if (QFileInfo::exists(fitxer) && !Sobreescriure(fitxer)) return false;
+  }
   Escriure_PDF(pagines, fitxer);
+  sessio.pantalla->Caixa(
+      Missatge("El document s'ha desat a:\n", "El documento se ha guardado en:\n", "The document was saved to:\n") +
+          fitxer.toStdString(),
+      estil::informacio);
   return true;
 }
 
 void Imprimir_Pagines(const Pagines& pagines) {
   if (carpeta_treballs.isEmpty()) return Dialeg_Impressio(pagines, QApplication::activeWindow());
+  const int copies = copies_treballs ? copies_treballs() : 1;
+  if (copies < 1) return;
+  Pagines totes = pagines;
+  for (int copia = 1; copia < copies; ++copia)
+    totes.pagines.insert(totes.pagines.end(), pagines.pagines.begin(), pagines.pagines.end());
   darrer_treball = QStringLiteral("%1/treball-%2.pdf").arg(carpeta_treballs).arg(++treballs);
-  Escriure_PDF(pagines, darrer_treball);
+  Escriure_PDF(totes, darrer_treball);
 }
 
 void Fixar_Carpeta_Treballs(const QString& carpeta) {
   carpeta_treballs = carpeta;
+}
+void Fixar_Copies_Treballs(std::function<int()> copies) {
+  copies_treballs = std::move(copies);
 }
 int Treballs_Impresos() {
   return treballs;

@@ -1,8 +1,8 @@
 # The set-up that ./run, ./test and bench/run share: sourced with the project's folder as the current one.
 # Installs what is missing (and only that), configures and builds, and shows how far it is. Quick when everything is there.
 
-paquets_construccio="cmake ninja-build g++ ccache pkg-config qt6-base-dev libsqlite3-dev libpq-dev libicu-dev
-  libgtest-dev nlohmann-json3-dev fonts-dejavu-core fonts-liberation2"
+paquets_construccio="cmake ninja-build g++ ccache pkg-config qt6-base-dev libqt6svg6-dev libsqlite3-dev libpq-dev libicu-dev
+  libgtest-dev nlohmann-json3-dev fonts-dejavu-core fonts-liberation2 qt6-translations-l10n"
 paquets_proves="postgresql clang-format clang-tidy poppler-utils git"
 
 installat() { dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'; }

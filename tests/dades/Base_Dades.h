@@ -11,6 +11,7 @@
 #include "core/dades/Connexio.h"
 #include "core/dades/Error_Brollador.h"
 #include "core/dades/Recordset.h"
+#include "core/dades/Transaccio.h"
 #include "tests/servidor/Base_Servidor.h"
 
 // How a failing test shows a value.

@@ -1,4 +1,5 @@
 #include "core/dades/Connexio.h"
+#include "core/dades/Motor.h"
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -78,30 +79,30 @@ TEST_F(Enllac, A_base_is_never_created_over_a_file) {
 }
 
 TEST_F(Enllac, Rollback_undoes_and_commit_keeps) {
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("1", "A");
-  connexio.RollbackTrans();
+  connexio.motor().RollbackTrans();
   EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(0));
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("1", "A");
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
   const Recordset rs("SELECT * FROM CLIENTS", altra);
   EXPECT_EQ(rs.RecordCount(), 1);
 }
 
 TEST_F(Enllac, A_transaction_without_a_write_holds_no_lock) {
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   const Recordset llegit("SELECT * FROM CLIENTS", connexio);
   altra.Execute("INSERT INTO CLIENTS (NIF_CLI) VALUES ('x')");
   EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(1));
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
 }
 
 TEST_F(Enllac, A_file_that_another_terminal_keeps_locked_is_an_error_and_then_usable_again) {
   NOMES_AMB_FITXER();
   Connexio impacient;
   impacient.Open(cami, 50);
-  altra.BeginTrans();
+  altra.motor().BeginTrans();
   altra.Execute("INSERT INTO CLIENTS (NIF_CLI) VALUES ('theirs')");
   try {
     impacient.Execute("INSERT INTO CLIENTS (NIF_CLI) VALUES ('mine')");
@@ -111,24 +112,24 @@ TEST_F(Enllac, A_file_that_another_terminal_keeps_locked_is_an_error_and_then_us
     EXPECT_EQ(error.Motiu(), Falla::Espera);
     EXPECT_EQ(error.Descripcio(), Descripcio_Falla(Falla::Espera));
   }
-  altra.CommitTrans();
+  altra.motor().CommitTrans();
   impacient.Execute("INSERT INTO CLIENTS (NIF_CLI) VALUES ('mine')");
   EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(2));
 }
 
 TEST_F(Enllac, A_failed_statement_leaves_the_transaction_usable) {
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("1", "A");
   EXPECT_EQ(Numero_Error([&] { Client("1", "again"); }), errors::general);
   EXPECT_EQ(Numero_Error([&] { connexio.Execute("SELEC nothing"); }), errors::sentencia);
   Client("2", "B");
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
   EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(2));
 }
 
 TEST_F(Enllac, A_disk_that_takes_no_more_undoes_the_transaction_and_nothing_is_written_behind_it) {
   NOMES_AMB_FITXER();
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("1", "A");
   const Sense_Lloc_Al_Disc limit(std::filesystem::file_size(cami));
   int error = 0;
@@ -136,8 +137,8 @@ TEST_F(Enllac, A_disk_that_takes_no_more_undoes_the_transaction_and_nothing_is_w
     error = Numero_Error([&] { Client("k" + std::to_string(i), std::string(400, 'x')); });
   }
   EXPECT_EQ(error, errors::general);
-  EXPECT_EQ(Numero_Error([&] { connexio.CommitTrans(); }), errors::general);
-  connexio.RollbackTrans();
+  EXPECT_EQ(Numero_Error([&] { connexio.motor().CommitTrans(); }), errors::general);
+  connexio.motor().RollbackTrans();
   EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(0));
   EXPECT_EQ(connexio.Comprovar_Integritat(), "");
 }

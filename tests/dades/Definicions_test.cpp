@@ -1,4 +1,5 @@
 // Definitions that come to a database after its first day.
+#include "core/dades/Motor.h"
 #include "tests/dades/Base_Dades.h"
 
 namespace {
@@ -39,9 +40,10 @@ TEST_F(Definicions_Noves, A_column_is_added_and_old_rows_have_its_default) {
 }
 
 TEST_F(Definicions_Noves, A_column_that_is_undone_is_in_nobodys_tables) {
-  connexio.BeginTrans();
-  connexio.Execute("ALTER TABLE PRIMERA ADD COLUMN IMPORT_P DOBLE DEFAULT 0;");
-  connexio.RollbackTrans();
+  {
+    const Transaccio transaccio(connexio);
+    connexio.Execute("ALTER TABLE PRIMERA ADD COLUMN IMPORT_P DOBLE DEFAULT 0;");
+  }
   Connexio tercera;
   tercera.Open(cami);
   EXPECT_EQ(Columnes(tercera), "CODI_P ");

@@ -25,6 +25,7 @@ TEST(Escanejar, A_subtraction_is_no_negative_literal) {
 
 TEST(Escanejar, Refuses_unclosed_quotes_false_dates_and_second_statements) {
   for (const char* text : {"SELECT * FROM T WHERE A = 'd'Anoia'", "SELECT 'x", "SELECT #13/32/2011#", "SELECT #today#",
+                           "SELECT #3/5/2011 24:00:00#", "SELECT #3/5/2011 9:05#", "SELECT #3/5/2011 #",
                            "DELETE * FROM A; DELETE * FROM B", "SELECT 1 -- x", "SELECT 12abc"}) {
     EXPECT_EQ(Numero_Error([&] { Escanejar(text); }), errors::sentencia) << text;
   }
@@ -86,6 +87,12 @@ TEST_F(Dialecte, Dates_compare_as_moments_and_a_date_means_its_midnight) {
   rs.Update();
   EXPECT_EQ(Columna_Sencera("SELECT NUM_C FROM CAP WHERE HORA_C BETWEEN #3/4/2011# AND #3/6/2011#"), "");
   EXPECT_EQ(Columna_Sencera("SELECT NUM_C FROM CAP WHERE HORA_C > #3/6/2011#"), "1");
+  EXPECT_EQ(Columna_Sencera("SELECT NUM_C FROM CAP WHERE HORA_C = #3/6/2011 0:00:01#"), "1");
+  EXPECT_EQ(Columna_Sencera("SELECT NUM_C FROM CAP WHERE HORA_C BETWEEN #3/6/2011# AND #3/6/2011 23:59:59#"), "1");
+  connexio.Execute("UPDATE CAP SET HORA_C = #3/7/2011 9:05:30#");
+  EXPECT_EQ(Un_Valor("SELECT HORA_C FROM CAP"), Valor(Data_Hora{2011, 3, 7, 9, 5, 30}));
+  connexio.Execute("UPDATE CAP SET HORA_C = #3/7/2011 0:00:00#");
+  EXPECT_EQ(Columna_Sencera("SELECT NUM_C FROM CAP WHERE HORA_C = #3/7/2011#"), "1");
 }
 
 TEST_F(Dialecte, Functions_of_the_dialect) {

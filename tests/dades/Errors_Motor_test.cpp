@@ -6,6 +6,7 @@
 
 #include "core/dades/Adreca.h"
 #include "core/dades/Dialecte.h"
+#include "core/dades/Motor.h"
 #include "core/dades/Registre_Errors.h"
 #include "tests/dades/Base_Dades.h"
 
@@ -56,34 +57,34 @@ TEST_F(Errors_Del_Motor, A_repeated_key_a_row_in_use_a_missing_parent_and_a_miss
 
 TEST_F(Errors_Del_Motor, They_are_told_apart_also_when_the_order_fails_among_others_that_travel_with_it) {
   Client("1", "Anna");
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   EXPECT_EQ(Motiu_Error([&] {
               connexio.Execute_Despres("UPDATE CLIENTS SET SALDO_CLI = 1");
               connexio.Execute_Despres("INSERT INTO LIN (EMPRESA_L, NUM_L, LIN_L) VALUES ('E', 5, 1)");
               connexio.Execute("DELETE * FROM PAGS");
             }),
             Falla::Sense_Pare);
-  connexio.RollbackTrans();
+  connexio.motor().RollbackTrans();
 }
 
 TEST_F(Errors_Del_Motor, A_wait_for_another_terminal_ends_in_words_that_say_so) {
   Client("1", "Anna");
   Connexio impacient;
   impacient.Open(cami, 50);
-  altra.BeginTrans();
+  altra.motor().BeginTrans();
   altra.Execute("UPDATE CLIENTS SET SALDO_CLI = 1");
   EXPECT_EQ(Motiu_Error([&] { impacient.Execute("UPDATE CLIENTS SET SALDO_CLI = 2"); }), Falla::Espera);
-  altra.RollbackTrans();
+  altra.motor().RollbackTrans();
 }
 
 TEST_F(Errors_Del_Motor, A_lost_connection_has_words_of_its_own) {
   if (!Proves_Al_Servidor()) GTEST_SKIP() << "of a server";
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("1", "Anna");
   servidor->Tallar();
   EXPECT_EQ(Motiu_Error([&] { Client("2", "Berta"); }), Falla::Sense_Connexio);
   EXPECT_EQ(Motiu_Error([&] { Client("3", "Carme"); }), Falla::Transaccio_Desfeta);
-  connexio.RollbackTrans();
+  connexio.motor().RollbackTrans();
   EXPECT_NE(Apuntat(), "");
 }
 

@@ -1,6 +1,7 @@
 // What an engine has to give, whichever it is: the same comparisons, the same order, transactions that outlive a
 // statement that fails.
 #include "core/dades/Dates.h"
+#include "core/dades/Motor.h"
 #include "core/dades/Taula_Plegat.h"
 #include "core/dades/Text.h"
 #include "tests/dades/Base_Dades.h"
@@ -110,7 +111,7 @@ TEST_F(Motors, A_sum_cannot_show_a_column_that_it_does_not_group_by) {
 }
 
 TEST_F(Motors, A_transaction_goes_on_after_any_statement_that_fails) {
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   EXPECT_EQ(Numero_Error([&] { connexio.Execute("UPDATE NO_HI_ES SET A = 1"); }), errors::sentencia);
   Client("1", "Anna");
   EXPECT_EQ(Numero_Error([&] { Client("1", "repetida"); }), errors::general);
@@ -118,20 +119,20 @@ TEST_F(Motors, A_transaction_goes_on_after_any_statement_that_fails) {
   Client("2", "Berta");
   connexio.Execute_Despres("UPDATE CLIENTS SET SALDO_CLI = 7 WHERE NIF_CLI = '1'");
   connexio.Execute_Despres("UPDATE CLIENTS SET SALDO_CLI = 8 WHERE NIF_CLI = '2'");
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
   EXPECT_EQ(Recordset("SELECT NIF_CLI FROM CLIENTS WHERE SALDO_CLI > 6", altra).RecordCount(), 2);
 }
 
 TEST_F(Motors, A_write_that_nobody_waited_for_fails_the_transaction_before_it_is_kept) {
   Client("1", "Anna");
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   const int numero = Numero_Error([&] {
     connexio.Execute_Despres("INSERT INTO CLIENTS (NIF_CLI) VALUES ('2')");
     connexio.Execute_Despres("INSERT INTO CLIENTS (NIF_CLI) VALUES ('1')");
-    connexio.CommitTrans();
+    connexio.motor().CommitTrans();
   });
   EXPECT_EQ(numero, errors::general);
-  connexio.RollbackTrans();
+  connexio.motor().RollbackTrans();
   EXPECT_EQ(Recordset("SELECT * FROM CLIENTS", altra).RecordCount(), 1);
   Client("2", "Berta");
 }
@@ -145,7 +146,7 @@ TEST_F(Motors, The_clock_is_the_engines_and_has_seconds) {
 
 TEST_F(Motors, A_row_read_to_be_written_in_a_transaction_does_not_change_under_it) {
   Client("1", "Anna");
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   connexio.Execute("UPDATE CLIENTS SET SALDO_CLI = 1 WHERE NIF_CLI = 'no hi es'");
   Recordset mine("SELECT * FROM CLIENTS WHERE NIF_CLI = '1'", connexio, Bloqueig::Optimista);
   Connexio impacient;
@@ -154,7 +155,7 @@ TEST_F(Motors, A_row_read_to_be_written_in_a_transaction_does_not_change_under_i
             errors::general);
   mine.Set("SALDO_CLI", 2);
   mine.Update();
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
   EXPECT_EQ(Un_Valor("SELECT SALDO_CLI FROM CLIENTS"), Valor(2.0));
 }
 
@@ -168,13 +169,13 @@ TEST_F(Motors, Trips_to_the_server_are_counted_and_what_travels_together_counts_
   const std::int64_t un = Proves_Al_Servidor() ? 1 : 0;
   Un_Valor("SELECT COUNT(*) FROM CLIENTS");  // the first read of a connection asks for the names of the columns too
   EXPECT_EQ(viatges([&] { Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"); }), un);
-  connexio.BeginTrans();
+  Transaccio transaccio(connexio);
   EXPECT_EQ(viatges([&] {
               connexio.Execute_Despres("UPDATE CLIENTS SET SALDO_CLI = 1");
               connexio.Execute_Despres("UPDATE CLIENTS SET SALDO_CLI = 2");
             }),
             0);
-  EXPECT_EQ(viatges([&] { connexio.CommitTrans(); }), un);
+  EXPECT_EQ(viatges([&] { transaccio.Confirmar(); }), un);
   EXPECT_EQ(Connexio().Viatges(), 0);
 }
 
@@ -186,24 +187,24 @@ TEST_F(Motors, A_server_that_was_away_is_found_again_by_the_next_statement) {
   servidor->Tallar();
   EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS WHERE NIF_CLI = '1'"), Valor("Anna"));
   servidor->Tallar();
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("2", "Berta");
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
   EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(2));
 }
 
 TEST_F(Motors, A_transaction_that_lost_its_server_is_undone_whole_and_the_next_one_works) {
   if (!Proves_Al_Servidor()) GTEST_SKIP() << "of a server";
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("1", "Anna");
   servidor->Tallar();
   EXPECT_EQ(Numero_Error([&] { Client("2", "Berta"); }), errors::general);
   EXPECT_EQ(Numero_Error([&] { Client("3", "Carme"); }), errors::general);
-  EXPECT_EQ(Numero_Error([&] { connexio.CommitTrans(); }), errors::general);
-  connexio.RollbackTrans();
+  EXPECT_EQ(Numero_Error([&] { connexio.motor().CommitTrans(); }), errors::general);
+  connexio.motor().RollbackTrans();
   EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(0));
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("1", "Anna");
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
   EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS"), Valor(1));
 }

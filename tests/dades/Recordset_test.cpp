@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include "core/dades/Motor.h"
 #include "tests/dades/Base_Dades.h"
 
 using Conjunt = Base_Dades;
@@ -114,7 +115,7 @@ TEST_F(Conjunt, A_deleted_row_is_a_conflict) {
 
 TEST_F(Conjunt, A_duplicate_key_leaves_recordset_and_transaction_usable) {
   Client("1", "A");
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   Client("2", "B");
   Recordset rs("SELECT * FROM CLIENTS", connexio, Bloqueig::Optimista);
   rs.AddNew();
@@ -126,7 +127,7 @@ TEST_F(Conjunt, A_duplicate_key_leaves_recordset_and_transaction_usable) {
   rs.MoveFirst();
   rs.Set("RAO_SOCIAL_CLI", "A2");
   rs.Update();
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
   EXPECT_EQ(Columna_Sencera("SELECT RAO_SOCIAL_CLI FROM CLIENTS ORDER BY NIF_CLI"), "A2 B");
 }
 
@@ -254,10 +255,10 @@ TEST_F(Conjunt, A_row_written_at_once_is_held_by_nobody_afterwards) {
   Recordset mine("SELECT * FROM CLIENTS", connexio, Bloqueig::Pessimista);
   Recordset theirs("SELECT * FROM CLIENTS", altra, Bloqueig::Pessimista);
   const std::int64_t abans = connexio.Viatges();
-  connexio.BeginTrans();
+  connexio.motor().BeginTrans();
   mine.Set("RAO_SOCIAL_CLI", "A2");
   mine.Update();
-  connexio.CommitTrans();
+  connexio.motor().CommitTrans();
   EXPECT_LE(connexio.Viatges() - abans, 2);
   theirs.Set("RAO_SOCIAL_CLI", "stale");
   EXPECT_EQ(Numero_Error([&] { theirs.Update(); }), errors::concurrencia);
@@ -266,9 +267,9 @@ TEST_F(Conjunt, A_row_written_at_once_is_held_by_nobody_afterwards) {
   theirs.Edit();
   EXPECT_EQ(Motiu_Error([&] { mine.Edit(); }), Falla::Fila_Retinguda);
   theirs.Set("RAO_SOCIAL_CLI", "A3");
-  altra.BeginTrans();
+  altra.motor().BeginTrans();
   theirs.Update();
-  altra.RollbackTrans();
+  altra.motor().RollbackTrans();
   mine.Edit();
   mine.CancelUpdate();
   EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"), Valor("A2"));
@@ -335,6 +336,18 @@ TEST_F(Conjunt, A_set_whose_server_is_away_closes_without_raising) {
   EXPECT_NO_THROW(rs->Close());
   EXPECT_NO_THROW(rs.reset());
   servidor->Tornar();
+  EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"), Valor("B"));
+}
+
+TEST_F(Conjunt, A_row_held_in_a_transaction_that_wrote_nothing_is_let_go_also_when_its_server_is_cut) {
+  if (!Proves_Al_Servidor()) GTEST_SKIP() << "of a server";
+  Client("1", "B");
+  Recordset rs("SELECT * FROM CLIENTS", connexio, Bloqueig::Pessimista);
+  rs.Edit();
+  connexio.motor().BeginTrans();
+  rs.CancelUpdate();
+  servidor->Tallar();
+  EXPECT_NO_THROW(connexio.motor().CommitTrans());
   EXPECT_EQ(Un_Valor("SELECT RAO_SOCIAL_CLI FROM CLIENTS"), Valor("B"));
 }
 

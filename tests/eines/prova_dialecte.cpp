@@ -45,7 +45,7 @@ class Base {
     connexio.Execute("CREATE TABLE CAP (NUM_C LLARG NOT NULL, DATA_C DATA, HORA_C DATA_HORA, PRIMARY KEY (NUM_C))");
     connexio.Execute("CREATE TABLE LIN (NUM_L LLARG NOT NULL, LIN_L CURT NOT NULL, PRIMARY KEY (NUM_L, LIN_L))");
     connexio.Execute("CREATE TABLE DIARI (ARTICLE_D CODI, UNITATS_D DOBLE)");
-    connexio.BeginTrans();
+    connexio.motor().BeginTrans();
     for (int i = 0; i < 20; ++i) {
       const std::string n = std::to_string(i);
       connexio.Execute("INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI) VALUES ('" + n + "', 'Client " + n + "')");
@@ -53,7 +53,7 @@ class Base {
     }
   }
   ~Base() {
-    connexio.RollbackTrans();
+    connexio.motor().RollbackTrans();
     connexio.Close();
     std::filesystem::remove_all(carpeta_);
   }

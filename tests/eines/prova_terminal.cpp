@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "shell/Aplicacio.h"
+#include "tests/eines/terminal/Etiquetes.h"
 #include "tests/eines/terminal/Ganxos.h"
 #include "tests/eines/terminal/Ordres.h"
 #include "tests/eines/terminal/Servidor.h"
@@ -33,5 +34,6 @@ int main(int argc, char** argv) {
   Aplicacio aplicacio(argc, argv);
   Servidor servidor(STDIN_FILENO, sortida, Executar_Ordre);
   Posar_Ganxos(servidor);
+  Vigilar_Etiquetes();
   return Aplicacio::exec();
 }

@@ -14,6 +14,7 @@
 #include "masters/M_Articles.h"
 #include "masters/M_Clients.h"
 #include "payments/M_Flags.h"
+#include "sales/M_Tipus_Venda.h"
 #include "stock/M_Magatzems.h"
 #include "tests/regles/Installacio_Prova.h"
 
@@ -208,7 +209,10 @@ Json Fer_Operacio(const Json& cas, const Json& operacio, Pantalla_Falsa& pantall
   Json vist = {{"error", 0}};
   pantalla.caixes.clear();
   try {
-    Actualitzar_Stock("A", cas["minim"].get<double>(), magatzem, delta, Stock_Negatiu_Permes(magatzem), porta_stock);
+    const Article_Estoc article = {"A", magatzem, cas["minim"].get<double>(), Stock_Negatiu_Permes(magatzem),
+                                   porta_stock};
+    Avisar_Sota_Minims(article, delta);
+    Actualitzar_Stock("A", magatzem, delta, article.stock_neg, porta_stock);
     Afegir_Moviment("A", magatzem, delta, "AC", "1", porta_stock);
   } catch (const Error_Brollador& error) {
     vist["error"] = error.Numero();
@@ -286,8 +290,12 @@ Veredicte Provar_Flags(const Json& cas) {
 
 // Within a transaction that is given up: quicker, and the next case starts clean.
 Veredicte En_Base(const std::function<Veredicte()>& prova) {
-  const Transaccio transaccio;
+  const Transaccio transaccio(sessio.Connexio_Comuna);
   return prova();
+}
+
+std::function<Veredicte(const Json&)> Donat_Per_Perdut(Veredicte (*prova)(const Json&)) {
+  return [prova](const Json& cas) { return En_Base([&] { return prova(cas); }); };
 }
 
 // ---- Counting
@@ -352,8 +360,7 @@ bool Provar_Taula(const std::string& nom, const std::vector<std::string>& linies
 bool Provar_Objectes(const std::string& nom, const std::vector<std::string>& linies,
                      const std::function<Veredicte(const Json&)>& prova) {
   Recompte recompte;
-  for (const std::string& linia : linies)
-    recompte.Afegir(linia, [&] { return En_Base([&] { return prova(Json::parse(linia)); }); });
+  for (const std::string& linia : linies) recompte.Afegir(linia, [&] { return prova(Json::parse(linia)); });
   return recompte.Dir(nom);
 }
 
@@ -366,8 +373,10 @@ bool Provar_Carpeta(const std::string& carpeta) {
       {"calcular_linia.tsv", [](auto& nom, auto& linies) { return Provar_Taula(nom, linies, Provar_Linia); }},
       {"recalcular_preus.tsv", [](auto& nom, auto& linies) { return Provar_Taula(nom, linies, Provar_Preus); }},
       {"venciments.tsv", [](auto& nom, auto& linies) { return Provar_Taula(nom, linies, Provar_Venciments); }},
-      {"flags.jsonl", [](auto& nom, auto& linies) { return Provar_Objectes(nom, linies, Provar_Flags); }},
-      {"peu.jsonl", [](auto& nom, auto& linies) { return Provar_Objectes(nom, linies, Provar_Peu); }},
+      {"flags.jsonl",
+       [](auto& nom, auto& linies) { return Provar_Objectes(nom, linies, Donat_Per_Perdut(Provar_Flags)); }},
+      {"peu.jsonl", [](auto& nom, auto& linies) { return Provar_Objectes(nom, linies, Donat_Per_Perdut(Provar_Peu)); }},
+      // It shows boxes, which wait for the end of a transaction.
       {"stock.jsonl", [&](auto& nom, auto& linies) {
          return Provar_Objectes(nom, linies, [&](const Json& cas) { return Provar_Estoc(cas, installacio.pantalla); });
        }}};

@@ -2,37 +2,10 @@
 
 #include <QSignalSpy>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include "core/controls/Camps.h"
 #include "tests/pantalles/Base_Pantalles.h"
-
-namespace {
-
-// Two fields in a window, so that one can be left for the other.
-class Finestra_De_Camps {
- public:
-  explicit Finestra_De_Camps(QWidget* camp) : camp_(camp) {
-    auto* columna = new QVBoxLayout(&finestra_);
-    columna->addWidget(camp_);
-    columna->addWidget(&altre_);
-    finestra_.show();
-    QApplication::setActiveWindow(&finestra_);
-    camp_->setFocus();
-  }
-  void Sortir() {
-    altre_.setFocus(Qt::TabFocusReason);
-    QApplication::processEvents();
-  }
-  bool Te_Focus() const { return camp_->hasFocus() || camp_->isAncestorOf(QApplication::focusWidget()); }
-
- private:
-  QWidget finestra_;
-  QLineEdit altre_;
-  QWidget* camp_;
-};
-
-}  // namespace
+#include "tests/pantalles/Finestra_De_Camps.h"
 
 TEST(Camp_Numeric, The_period_gives_a_comma) {
   Camp_Numeric camp;
@@ -122,44 +95,4 @@ TEST_F(Combo_De_Clients, Shows_a_name_that_the_list_does_not_hold) {
   combo->Posar("9", "Gone long ago");
   EXPECT_EQ(combo->currentText(), QStringLiteral("Gone long ago"));
   EXPECT_EQ(combo->Codi(), "9");
-}
-
-TEST(Camps, A_field_that_goes_with_its_window_is_not_left) {
-  int vegades = 0;
-  {
-    QWidget finestra;
-    auto* camp = new QLineEdit(&finestra);
-    En_Sortir(camp, [&] { ++vegades; });
-    finestra.show();
-    QApplication::setActiveWindow(&finestra);
-    camp->setFocus();
-    EXPECT_TRUE(camp->hasFocus());
-  }
-  EXPECT_EQ(vegades, 0);
-}
-
-TEST(Camps, Leaving_runs_before_entering_and_neither_runs_while_the_focus_is_kept) {
-  QStringList fets;
-  QWidget finestra;
-  QLineEdit a(&finestra);
-  QLineEdit b(&finestra);
-  En_Sortir(&a, [&] {
-    fets << QStringLiteral("leaves a");
-    if (a.text() == u"bad") Retenir_Focus(&a);
-  });
-  En_Entrar(&b, [&] { fets << QStringLiteral("enters b"); });
-  En_Sortir(&b, [&] { fets << QStringLiteral("leaves b"); });
-  finestra.show();
-  QApplication::setActiveWindow(&finestra);
-  a.setFocus();
-  b.setFocus(Qt::TabFocusReason);
-  EXPECT_EQ(fets, (QStringList{QStringLiteral("leaves a"), QStringLiteral("enters b")}));
-  a.setFocus(Qt::TabFocusReason);
-  a.setText(QStringLiteral("bad"));
-  fets.clear();
-  b.setFocus(Qt::TabFocusReason);
-  QApplication::processEvents();
-  EXPECT_EQ(fets, QStringList{QStringLiteral("leaves a")});
-  EXPECT_TRUE(a.hasFocus());
-  EXPECT_EQ(a.selectedText(), QStringLiteral("bad"));
 }

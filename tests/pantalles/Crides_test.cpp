@@ -152,6 +152,7 @@ TEST_F(Crides, The_field_is_entered_with_its_old_text_and_left_with_the_new_one)
   vist.clear();
   Tornar_Fila(*llista);
   EXPECT_EQ(vist.mid(0, 2), (QStringList{QStringLiteral("entra vell"), QStringLiteral("surt CODI_ALM A")}));
+  Descarregar_Formulari(formulari->Nom());  // its fields look at what ends here
 }
 
 TEST_F(Crides, The_place_that_was_picked_stands_over_the_one_that_the_code_alone_would_give) {
@@ -168,6 +169,7 @@ TEST_F(Crides, The_place_that_was_picked_stands_over_the_one_that_the_code_alone
   });
   Doble_Clic(Obrir_Llista(crida));
   EXPECT_EQ(desada, QStringLiteral("LOCALITAT_CP A"));
+  Descarregar_Formulari(formulari->Nom());  // its fields look at what ends here
 }
 
 TEST_F(Crides, A_customer_reaches_a_note_whose_combo_is_disabled) {
@@ -206,6 +208,7 @@ TEST_F(Crides, The_line_of_an_order_is_written_as_it_is_and_nothing_is_left) {
   EXPECT_EQ(Text(formulari, "TXT_COMANDA_AL"), QStringLiteral("7"));
   EXPECT_EQ(Text(formulari, "TXT_COMANDA_LIN_AL"), QStringLiteral("2"));
   EXPECT_EQ(formulari->focusWidget(), formulari->Cercar_Control(QStringLiteral("TXT_UNITATS_AL")));
+  Descarregar_Formulari(formulari->Nom());  // its fields look at what ends here
 }
 
 TEST_F(Crides, The_caller_has_gone_and_nothing_is_done) {

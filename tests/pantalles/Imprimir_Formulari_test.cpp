@@ -94,6 +94,20 @@ TEST_F(Imprimir_Un_Formulari, Two_grids_come_one_after_the_other) {
   segona->Lligar(nullptr);
 }
 
+TEST_F(Imprimir_Un_Formulari, Ticks_are_printed_whether_or_not_the_grid_may_be_changed) {
+  Executar(
+      "INSERT INTO FORMES_PAGAMENT (ID_FP, DESCRIPCIO_FP, REBUT_FP, COMPTE_CLI_FP) VALUES('ZZ', 'Amb rebut', -1, 0)");
+  Registrar_Llista("F_FORMESPAGAMENTM", "SELECT * FROM FORMES_PAGAMENT WHERE ID_FP = 'ZZ'",
+                   {{"DESCRIPCIO_FP", 2000, "Descripció"},
+                    {.camp = "REBUT_FP", .amplada = 1200, .titol = "Rebut", .casella = true},
+                    {.camp = "COMPTE_CLI_FP", .amplada = 1200, .titol = "Compte", .casella = true}});
+  auto* llista = Obrir_I_Tenir<Llista_De_Prova>("F_FORMESPAGAMENTM");
+  const auto marques = [&] { return Textos(Pagines_De_Formulari(*llista).pagines.at(0)).count(u"✓"_qs); };
+  EXPECT_EQ(marques(), 1);
+  llista->Graella_Llista()->Permetre_Canvis(true);
+  EXPECT_EQ(marques(), 1);
+}
+
 TEST_F(Imprimir_Un_Formulari, Without_a_grid_its_image_is_printed) {
   Registrar("F_HELP");
   Obrir_I_Tenir<Formulari_De_Prova>("F_HELP")->Posar<QLineEdit>("TXT_EMAIL");

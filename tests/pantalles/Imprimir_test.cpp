@@ -1,19 +1,24 @@
 // The printed delivery note, read back from its PDF file.
-#include "output/informe/Imprimir.h"
+#include "output/Imprimir.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTimer>
 
 #include "core/dades/Numeros.h"
-#include "output/DR_Albara_Valorat.h"
+#include "core/formularis/Pantalla_Qt.h"
+#include "output/DR_Valorat.h"
 #include "output/M_Impressio.h"
 #include "output/informe/Sortida.h"
+#include "sales/M_Tipus_Venda.h"
 #include "schema/Textos.h"
+#include "stock/M_Tipus_Estoc.h"
 #include "tests/pantalles/Base_Pantalles.h"
 
 namespace {
@@ -60,7 +65,7 @@ class Imprimir : public Base_Pantalles {
 
   static QString Fitxer() { return Fitxer_PDF(tipus_albara, 12); }
   static std::int64_t Files_Pendents() {
-    return Recordset(SQL_Impressio(tipus_albara), sessio.Connexio_Local).RecordCount();
+    return Recordset(SQL_Impressio(Informe_De(tipus_albara)), sessio.Connexio_Local).RecordCount();
   }
   static QString Sortida_De(const QString& programa, const QStringList& arguments) {
     QProcess proces;
@@ -244,6 +249,28 @@ TEST_F(Imprimir, TheFileCarriesItsLettersTitleAndAuthor) {
   }
 }
 
+TEST_F(Imprimir, Saved_as_PDF_it_gets_the_ending_that_was_not_typed_and_says_where_it_went) {
+  Pantalla_Qt pantalla;
+  sessio.pantalla = &pantalla;
+  QString dit;
+  Pantalla_Qt::Contestador = [&](const QString& text, int, const QString&) {
+    dit = text;
+    return Resposta::Ok;
+  };
+  const QString sencer = QString::fromStdString(installacio.Dir_Dades()) + QStringLiteral("/Albarà 1.2");
+  QTimer::singleShot(0, qApp, [&] {
+    auto* dialeg = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialeg, nullptr);
+    dialeg->findChild<QLineEdit*>()->setText(sencer);
+    static_cast<QDialog*>(dialeg)->accept();
+  });
+  EXPECT_TRUE(Demanar_PDF(Pagines{.titol = u"A-12"_qs, .autor = {}, .pagines = {{}}}, nullptr));
+  Pantalla_Qt::Contestador = nullptr;
+  EXPECT_TRUE(QFile::exists(sencer + u".pdf"_qs));
+  EXPECT_FALSE(QFile::exists(sencer));
+  EXPECT_EQ(dit, u"El document s'ha desat a:\n"_qs + sencer + u".pdf"_qs);
+}
+
 TEST_F(Imprimir, AFileThatCannotBeWrittenIsAnError) {
   EXPECT_THROW(Escriure_PDF(Pagines{.titol = {}, .autor = {}, .pagines = {{}}}, u"/proc/no/s-hi/escriu.pdf"_qs),
                Error_Brollador);
@@ -253,30 +280,40 @@ TEST_F(Imprimir, AKindWithoutAReportIsAnError) {
   EXPECT_THROW(Imprimir_Document(tipus_albmag, 1, empresa, impressio::pdf), Error_Brollador);
 }
 
+TEST_F(Imprimir, ANameOfAFileHoldsNoSlash) {
+  EXPECT_TRUE(Fitxer_PDF(tipus_albcompra, "../2026/15").endsWith(u"/Temp/AC-..-2026-15.pdf"_qs));
+  EXPECT_EQ(Nom_De_Fitxer(u".a\n/b"_qs), u"-.a--b"_qs);
+}
+
 // The design holds the Catalan captions, and each has its line in the three languages.
-TEST(DR_Albara_Valorat, CaptionsAndTextsAgree) {
-  std::map<std::string, std::string> textos;
-  for (const auto& text : Textos_De_Pantalles()) {
-    if (text.objecte == "DR_ALBARA_VALORAT") textos[text.control] = text.text[0];
+TEST(DR_Valorat, CaptionsAndTextsAgree) {
+  for (const auto& descripcio : Informes_De_Documents()) {
+    std::map<std::string, std::string> textos;
+    for (const auto& text : Textos_De_Pantalles()) {
+      if (text.objecte == descripcio.informe) textos[text.control] = text.text[0];
+    }
+    for (const auto& control : DR_Valorat(descripcio).controls) {
+      if (control.mena != Mena_Control::Etiqueta || control.text.isEmpty()) continue;
+      const std::string adreca = control.nom.toStdString() + "." + std::to_string(static_cast<int>(control.seccio));
+      EXPECT_EQ(textos[adreca], control.text.toStdString()) << descripcio.informe << " " << adreca;
+      textos.erase(adreca);
+    }
+    for (const auto& [adreca, text] : textos) ADD_FAILURE() << descripcio.informe << " has no such caption: " << adreca;
   }
-  for (const auto& control : DR_Albara_Valorat().controls) {
-    if (control.mena != Mena_Control::Etiqueta || control.text.isEmpty()) continue;
-    const std::string adreca = control.nom.toStdString() + "." + std::to_string(static_cast<int>(control.seccio));
-    EXPECT_EQ(textos[adreca], control.text.toStdString()) << adreca;
-    textos.erase(adreca);
-  }
-  for (const auto& [adreca, text] : textos) ADD_FAILURE() << "no such caption on the page: " << adreca;
 }
 
 // No two controls of a section share a place, and none leaves the margins.
-TEST(DR_Albara_Valorat, ControlsKeepToTheirPlaces) {
-  const auto& definicio = DR_Albara_Valorat();
-  for (const auto& a : definicio.controls) {
-    EXPECT_LE(a.lloc.right(), paper::amplada - 2 * paper::marge) << a.nom.toStdString();
-    EXPECT_LE(a.lloc.bottom(), definicio.alcades[static_cast<std::size_t>(a.seccio)]) << a.nom.toStdString();
-    for (const auto& b : definicio.controls) {
-      if (&a == &b || a.seccio != b.seccio) continue;
-      EXPECT_FALSE(a.lloc.intersects(b.lloc)) << a.nom.toStdString() << " and " << b.nom.toStdString();
+TEST(DR_Valorat, ControlsKeepToTheirPlaces) {
+  for (const auto& descripcio : Informes_De_Documents()) {
+    const auto& definicio = DR_Valorat(descripcio);
+    for (const auto& a : definicio.controls) {
+      const std::string nom = std::string(descripcio.informe) + " " + a.nom.toStdString();
+      EXPECT_LE(a.lloc.right(), paper::amplada - 2 * paper::marge) << nom;
+      EXPECT_LE(a.lloc.bottom(), definicio.alcades[static_cast<std::size_t>(a.seccio)]) << nom;
+      for (const auto& b : definicio.controls) {
+        if (&a == &b || a.seccio != b.seccio) continue;
+        EXPECT_FALSE(a.lloc.intersects(b.lloc)) << nom << " and " << b.nom.toStdString();
+      }
     }
   }
 }

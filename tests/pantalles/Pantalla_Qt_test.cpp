@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "shell/Instancia_Unica.h"
 #include "tests/pantalles/Base_Pantalles.h"
@@ -30,6 +31,20 @@ TEST(Pantalla_Qt, What_is_typed_during_a_save_is_swallowed) {
   EXPECT_EQ(camp.text(), QStringLiteral("y"));
 }
 
+TEST(Pantalla_Qt, No_window_closes_during_a_save_and_the_program_does_not_end) {
+  Pantalla_Qt pantalla;
+  QWidget finestra;
+  finestra.show();
+  pantalla.Bloquejar_Entrada();
+  EXPECT_FALSE(finestra.close());
+  QEvent acabar(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &acabar);
+  EXPECT_FALSE(acabar.isAccepted());
+  pantalla.Alliberar_Entrada();
+  EXPECT_TRUE(finestra.isVisible());
+  EXPECT_TRUE(finestra.close());
+}
+
 TEST(Pantalla_Qt, Events_that_rules_let_run_leave_the_keys_for_later) {
   Pantalla_Qt pantalla;
   QLineEdit camp;
@@ -37,6 +52,22 @@ TEST(Pantalla_Qt, Events_that_rules_let_run_leave_the_keys_for_later) {
   Teclejar_A_La_Cua(&camp);
   QCoreApplication::processEvents();
   EXPECT_EQ(camp.text(), QStringLiteral("a"));
+}
+
+TEST(Pantalla_Qt, A_box_of_few_words_has_room_for_its_title) {
+  Pantalla_Qt pantalla;
+  Pantalla_Qt::Contestador = nullptr;
+  int amplada = 0;
+  QString titol;
+  QTimer::singleShot(0, qApp, [&] {
+    QWidget* caixa = QApplication::activeModalWidget();
+    amplada = caixa->width() - caixa->fontMetrics().horizontalAdvance(caixa->windowTitle());
+    titol = caixa->windowTitle();
+    caixa->close();
+  });
+  pantalla.Caixa("!", estil::simple, "Usuari que encara no ha entrat");
+  EXPECT_EQ(titol, QStringLiteral("Usuari que encara no ha entrat"));
+  EXPECT_GE(amplada, 100);
 }
 
 TEST(Instancia_Unica, A_second_start_calls_the_first_one_and_stands_back) {

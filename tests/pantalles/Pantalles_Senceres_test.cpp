@@ -9,6 +9,7 @@
 #include <QTabBar>
 
 #include "core/controls/Graella.h"
+#include "core/formularis/Motius.h"
 #include "session/Canvi_Idioma.h"
 #include "tests/pantalles/Cada_Pantalla.h"
 
@@ -28,6 +29,7 @@ class Pantalles_Senceres : public Cada_Pantalla {
       if (qobject_cast<const QLabel*>(control) != nullptr || qobject_cast<const QAbstractButton*>(control) != nullptr)
         Sencer(control);
       if (const auto* graella = qobject_cast<const Graella*>(control)) Titols_Sencers(*graella);
+      Diu_Que_Fa(*control);
     }
     for (const auto* pestanyes : Obert()->findChildren<QTabBar*>()) {
       for (int i = 0; i < pestanyes->count(); ++i) EXPECT_FALSE(pestanyes->tabText(i).trimmed().isEmpty());
@@ -38,9 +40,18 @@ class Pantalles_Senceres : public Cada_Pantalla {
   // What the text of a control takes, with the picture beside it.
   static int Amplada_Del_Text(const QWidget* control) {
     const auto* boto = qobject_cast<const QAbstractButton*>(control);
-    if (boto == nullptr) return control->minimumSizeHint().width();
+    const auto* etiqueta = qobject_cast<const QLabel*>(control);
+    if (boto == nullptr && etiqueta->buddy() == nullptr) return control->minimumSizeHint().width();
+    if (boto == nullptr) return Amplada_Dibuixada(etiqueta->fontMetrics(), etiqueta->text());
     const int imatge = boto->icon().isNull() ? 0 : boto->iconSize().width() + 4;
-    return boto->fontMetrics().size(Qt::TextShowMnemonic, boto->text()).width() + imatge;
+    return Amplada_Dibuixada(boto->fontMetrics(), boto->text()) + imatge;
+  }
+  // The letter of a key is drawn by itself: no kerning around it.
+  static int Amplada_Dibuixada(const QFontMetrics& lletra, const QString& text) {
+    const auto clau = text.indexOf(u'&');
+    if (clau < 0) return lletra.horizontalAdvance(text);
+    return lletra.horizontalAdvance(text.left(clau)) + lletra.horizontalAdvance(text.mid(clau + 1, 1)) +
+           lletra.horizontalAdvance(text.mid(clau + 2));
   }
   static void Sencer(const QWidget* control) {
     EXPECT_GE(control->width(), Amplada_Del_Text(control));
@@ -50,6 +61,13 @@ class Pantalles_Senceres : public Cada_Pantalla {
     const auto* boto = qobject_cast<const QAbstractButton*>(control);
     const bool amb_imatge = etiqueta != nullptr && !etiqueta->pixmap().isNull();
     EXPECT_TRUE(amb_imatge || !(etiqueta != nullptr ? etiqueta->text() : boto->text()).trimmed().isEmpty());
+  }
+  // Three dots say what they open; what cannot be used says why.
+  static void Diu_Que_Fa(const QWidget& control) {
+    const auto* boto = qobject_cast<const QAbstractButton*>(&control);
+    if (boto == nullptr) return;
+    EXPECT_TRUE(boto->text() != u"..." || !boto->toolTip().isEmpty());
+    EXPECT_TRUE(boto->isEnabled() || !Motiu_De_Desactivat(*boto).isEmpty());
   }
   static void Titols_Sencers(const Graella& graella) {
     const QFontMetrics lletra(graella.horizontalHeader()->font());

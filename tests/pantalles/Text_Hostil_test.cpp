@@ -140,7 +140,7 @@ class Text_Hostil : public Cada_Pantalla {
     Escriure_I_Deixar(camp, text);
     if (GetParam().prem_botons) Premer_Botons();
     Comprovar_Caixes();
-    EXPECT_FALSE(sessio.Transaccio_Oberta);
+    EXPECT_FALSE(sessio.Transaccio_Oberta());
     EXPECT_FALSE(sessio.Entrada_Bloquejada);
     EXPECT_FALSE(Focus_Retingut());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -256,7 +256,7 @@ TEST_P(Text_Hostil, Is_taken_or_refused_by_the_cells_of_a_grid) {
       Assentar();
       Comprovar_Caixes();
       EXPECT_FALSE(graella->En_Edicio());
-      EXPECT_FALSE(sessio.Transaccio_Oberta);
+      EXPECT_FALSE(sessio.Transaccio_Oberta());
       for (const auto& [taula, files] : Files()) EXPECT_GE(files, abans.at(taula)) << taula;
     }
   }

@@ -1,5 +1,7 @@
 #include "documents/Documents.h"
 
+#include "sales/M_Tipus_Venda.h"
+#include "stock/M_Tipus_Estoc.h"
 #include "tests/regles/Base.h"
 
 class Documents : public Base_Dades {
@@ -67,6 +69,74 @@ TEST(Documents_SQL, the_letters_of_locks_and_of_payments_are_two_matters) {
   EXPECT_EQ(tipus_comanda.lletra_pagament, "P");
   EXPECT_EQ(tipus_factura.lletra_pagament, "F");
   EXPECT_EQ(tipus_pressupost.lletra_pagament, "");
+}
+
+// ---- Numbers as they are typed
+
+TEST(Numero_Escrit, is_a_whole_number_from_1_to_what_its_column_holds) {
+  for (const char* text : {"12", " 12 ", "12,0"}) EXPECT_EQ(Numero_Escrit(tipus_albara, text), Valor(12)) << text;
+  EXPECT_EQ(Numero_Escrit(tipus_albara, "2147483647"), Valor(2147483647));
+  for (const char* text : {"", " ", "0", "-1", "1,5", "abc", "2147483648", "1e400"})
+    EXPECT_EQ(Numero_Escrit(tipus_albara, text), std::nullopt) << text;
+}
+
+TEST(Numero_Escrit, is_any_text_where_numbers_are_texts) {
+  EXPECT_EQ(Numero_Escrit(tipus_albcompra, " A/12-b "), Valor("A/12-b"));
+  EXPECT_EQ(Numero_Escrit(tipus_albcompra, "007"), Valor("007"));
+  EXPECT_EQ(Numero_Escrit(tipus_albcompra, "  "), std::nullopt);
+}
+
+TEST(Mateix_Numero, tells_no_capitals_apart) {
+  EXPECT_TRUE(Mateix_Numero("a/12", "A/12"));
+  EXPECT_TRUE(Mateix_Numero(7, 7));
+  EXPECT_FALSE(Mateix_Numero("7", "07"));
+}
+
+TEST(Numero_Per_A_Fitxer, leaves_its_folder_in_no_case) {
+  EXPECT_EQ(Numero_Per_A_Fitxer(12), "12");
+  EXPECT_EQ(Numero_Per_A_Fitxer("A/12-b"), "A-12-b");
+  EXPECT_EQ(Numero_Per_A_Fitxer("../../etc"), "------etc");
+  EXPECT_EQ(Numero_Per_A_Fitxer("...\\\n"), "--.--");
+}
+
+// ---- Deleting a whole document
+
+TEST_F(Documents, each_kind_asks_in_its_own_words_and_Cancel_keeps_the_document) {
+  for (const Tipus_Document* tipus : Tipus_Registrats()) {
+    Posar_Cap(*tipus, 7);
+    pantalla.respostes.push_back(Resposta::Cancel);
+    Demanar_Esborrar_Document(*tipus, 7, empresa_prova);
+    EXPECT_EQ(pantalla.caixes.back().text, tipus->pregunta_esborrar.catala + std::string("7 ?"));
+    EXPECT_EQ(Files_De(tipus->cap), 1) << tipus->formulari;
+    pantalla.respostes.push_back(Resposta::Ok);
+    Demanar_Esborrar_Document(*tipus, 7, empresa_prova);
+    EXPECT_EQ(Files_De(tipus->cap), 0) << tipus->formulari;
+  }
+}
+
+TEST_F(Documents, a_document_that_the_database_keeps_is_refused_in_the_words_of_its_kind) {
+  Posar_Cap(tipus_albcompra, 7);
+  Posar_Linia(tipus_albcompra, 7, 1);
+  pantalla.respostes.push_back(Resposta::Ok);
+  Demanar_Esborrar_Document(tipus_albcompra, 7, empresa_prova);
+  EXPECT_EQ(pantalla.caixes.back(),
+            (Caixa_Vista{"No es pot esborrar l'Albarà de compra 7 !!!", estil::critic, "Brollador"}));
+  EXPECT_EQ(Files_De(tipus_albcompra.cap), 1);
+}
+
+TEST_F(Documents, payments_keep_a_document_of_a_kind_that_takes_them) {
+  Posar_Cap(tipus_comanda, 7);
+  Posar_Pagament("P", 7);
+  pantalla.respostes.push_back(Resposta::Ok);
+  Demanar_Esborrar_Document(tipus_comanda, 7, empresa_prova);
+  EXPECT_EQ(pantalla.caixes.back().text, "No es pot esborrar. Hi ha pagaments!");
+  EXPECT_EQ(Files_De(tipus_comanda.cap), 1);
+}
+
+TEST(Tipus_De_Document, all_six_are_told_and_are_told_once) {
+  const Installacio_Prova installacio;
+  Registrar_Tipus(tipus_albara);
+  EXPECT_EQ(Tipus_Registrats().size(), 6U);
 }
 
 // ---- Heads and numbers
@@ -139,6 +209,16 @@ TEST_F(Documents, a_purchase_note_with_letters_does_not_count_for_the_next_numbe
   EXPECT_EQ(Seguent_Numero(tipus_albcompra, empresa_prova), Valor("13"));
 }
 
+TEST_F(Documents, what_counts_as_a_number_gives_its_whole_part_to_the_next_one) {
+  for (const auto& [escrit, seguent] : std::vector<std::pair<std::string, std::string>>{
+           {"$5", "6"}, {"12,5", "13"}, {"$ 7", "8"}, {"1.234", "1235"}, {"20260000123456", "20260000123457"}}) {
+    Executar("DELETE * FROM ALBCOMPRACAP");
+    Posar_Cap(tipus_albcompra, escrit);
+    EXPECT_EQ(Seguent_Numero(tipus_albcompra, empresa_prova), Valor(seguent)) << escrit;
+    EXPECT_EQ(Crear_Capcalera(tipus_albcompra), Valor(seguent)) << escrit;
+  }
+}
+
 TEST_F(Documents, the_highest_purchase_number_is_that_of_texts_so_that_9_beats_10) {
   Posar_Cap(tipus_albcompra, "9");
   Posar_Cap(tipus_albcompra, "10");
@@ -197,7 +277,7 @@ class Linies_Que_Es_Mouen : public Documents {
 TEST_F(Linies_Que_Es_Mouen, down_takes_the_number_of_the_next_one_across_a_gap) {
   EXPECT_TRUE(Intercanviar_Linia(tipus_albara, 7, empresa_prova, 2, true));
   EXPECT_EQ(Ordre(), "1:línia 1 2:línia 5 5:línia 2 ");
-  EXPECT_FALSE(sessio.Transaccio_Oberta);
+  EXPECT_FALSE(sessio.Transaccio_Oberta());
 }
 
 TEST_F(Linies_Que_Es_Mouen, up_takes_the_number_of_the_one_before) {
@@ -254,7 +334,8 @@ TEST_F(Documents, the_foot_does_not_hold_back_a_purchase_note) {
 
 TEST_F(Documents, an_empty_one_goes_on_closing_and_its_number_comes_free) {
   const Valor numero = Crear_Capcalera(tipus_albara);
-  EXPECT_TRUE(Esborrar_Document_Buit(tipus_albara, numero, empresa_prova));
+  EXPECT_EQ(Esborrar_Document_Buit(tipus_albara, numero, empresa_prova), Buit::Esborrat);
+  EXPECT_EQ(Esborrar_Document_Buit(tipus_albara, numero, empresa_prova), Buit::Perdut);
   EXPECT_EQ(Crear_Capcalera(tipus_albara), numero);
 }
 
@@ -263,8 +344,8 @@ TEST_F(Documents, one_with_lines_or_with_payments_stays_on_closing) {
   Posar_Linia(tipus_albara, 7, 1);
   Posar_Cap(tipus_albara, 8);
   Posar_Pagament("A", 8);
-  EXPECT_FALSE(Esborrar_Document_Buit(tipus_albara, 7, empresa_prova));
-  EXPECT_FALSE(Esborrar_Document_Buit(tipus_albara, 8, empresa_prova));
+  EXPECT_EQ(Esborrar_Document_Buit(tipus_albara, 7, empresa_prova), Buit::Es_Queda);
+  EXPECT_EQ(Esborrar_Document_Buit(tipus_albara, 8, empresa_prova), Buit::Es_Queda);
   EXPECT_EQ(Files_De(tipus_albara.cap), 2);
 }
 

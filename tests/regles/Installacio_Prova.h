@@ -21,6 +21,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "schema/Installador.h"
 #include "session/M_Inici.h"
+#include "shell/M_Tipus.h"
 #include "tests/servidor/Base_Servidor.h"
 
 // An open document form: what rules wrote on it.
@@ -66,8 +67,7 @@ class Pantalla_Falsa : public Pantalla {
   std::map<std::string, bool> menus_marcats;
   std::map<std::string, std::string> menus_textos;
 
-  using Pantalla::Caixa;
-  Resposta Caixa(const std::string& text, int estil, const std::string& titol) override {
+  Resposta Obrir_Caixa(const std::string& text, int estil, const std::string& titol) override {
     caixes.push_back({text, estil, titol});
     const bool pregunta = (estil & 7) != estil::simple;
     if (!pregunta) return Resposta::Ok;
@@ -89,7 +89,7 @@ class Pantalla_Falsa : public Pantalla {
   }
   void Bloquejar_Entrada() override { entrada_blocada = true; }
   void Alliberar_Entrada() override { entrada_blocada = false; }
-  std::string Triar_Empresa(const std::string&, int) override {
+  std::string Obrir_Tria_Empresa(const std::string&, int) override {
     ++tries_empresa;
     return empresa_triada;
   }
@@ -165,6 +165,7 @@ class Model_Servidor {
 class Installacio_Prova {
  public:
   Installacio_Prova() {
+    Registrar_Tipus_De_Document();
     Crear();
     sessio.Dir_Dades = Dir_Dades();
     sessio.Fitxer_Ini = Dir_Dades() + "/Brollador.ini";

@@ -1,6 +1,7 @@
 #include "sales/M_Albarans.h"
 
 #include "documents/M_Peu.h"
+#include "sales/M_Tipus_Venda.h"
 #include "tests/regles/Base.h"
 
 class M_Albarans : public Base_Dades {
@@ -19,13 +20,13 @@ class M_Albarans : public Base_Dades {
   }
   // As the event of the quantity field does it.
   void Afegir() {
-    Transaccio transaccio;
+    Transaccio transaccio(sessio.Connexio_Comuna);
     Afegir_Linia_Albara(cap, linia, linies, obert);
     transaccio.Confirmar();
   }
   bool Esborrar(std::int16_t numero_linia, double unitats) {
     pantalla.respostes.push_back(Resposta::Ok);
-    Transaccio transaccio;
+    Transaccio transaccio(sessio.Connexio_Comuna);
     const bool esborrada = Esborrar_Linia_Albara(7, empresa_prova, numero_linia, "A1", unitats);
     transaccio.Confirmar();
     return esborrada;
@@ -127,7 +128,7 @@ TEST_F(M_Albarans, a_shortage_is_shown_once_and_leaves_no_line_stock_journal_or_
   EXPECT_EQ(pantalla.caixes,
             (std::vector<Caixa_Vista>{{"1001 - Operació fallida. No hi ha prou STOCK!", 16, "Brollador"}}));
   EXPECT_FALSE(pantalla.entrada_blocada);
-  EXPECT_FALSE(sessio.Transaccio_Oberta);
+  EXPECT_FALSE(sessio.Transaccio_Oberta());
   EXPECT_EQ(Linies(), 0);
   EXPECT_EQ(Moviments(), 0);
   EXPECT_EQ(Files(SQL_Peu(tipus_albara, 7, empresa_prova)), 0);
@@ -150,7 +151,7 @@ TEST_F(M_Albarans, an_unknown_tax_type_is_a_type_error_that_leaves_nothing) {
   EXPECT_EQ(Error_De([&] { Afegir(); }).Numero(), errors::tipus);
   linies.CancelUpdate();
   EXPECT_EQ(Linies(), 0);
-  EXPECT_FALSE(sessio.Transaccio_Oberta);
+  EXPECT_FALSE(sessio.Transaccio_Oberta());
 }
 
 TEST_F(M_Albarans, after_line_32767_comes_an_overflow) {
@@ -163,9 +164,7 @@ TEST_F(M_Albarans, an_apostrophe_in_a_description_is_data_and_in_an_article_a_fa
   Afegir();
   EXPECT_EQ(Text("SELECT DESCRIPCIO_AL FROM ALBARALIN"), "d'Anoia");
   linia.article = "d'A";
-  EXPECT_EQ(Error_De([&] { Afegir(); }).Numero(), errors::refusat);
-  ASSERT_EQ(pantalla.caixes.size(), 1U);
-  EXPECT_TRUE(pantalla.caixes[0].text.starts_with(std::to_string(errors::sentencia) + " - "));
+  EXPECT_EQ(Error_De([&] { Afegir(); }).Numero(), errors::sentencia);
   EXPECT_EQ(Linies(), 1);
 }
 
@@ -187,6 +186,36 @@ TEST_F(M_Albarans, a_cancelled_deletion_changes_nothing) {
   EXPECT_FALSE(Esborrar_Linia_Albara(7, empresa_prova, 1, "A1", 4));
   EXPECT_EQ(Linies(), 1);
   EXPECT_EQ(Estoc("A1", "1").Doble(), 46);
+}
+
+TEST_F(M_Albarans, a_line_of_a_note_that_another_terminal_deleted_posts_nothing_and_says_so_in_the_language) {
+  Afegir();
+  Executar("DELETE * FROM ALBARACAP");
+  const std::vector<std::string> textos = {"El document ja no existeix.", "El documento ya no existe.",
+                                           "The document no longer exists."};
+  for (std::int16_t idioma = 0; idioma < 3; ++idioma) {
+    sessio.Idioma_Actual = idioma;
+    const Error_Brollador error = Error_De([&] { Esborrar(1, 4); });
+    EXPECT_EQ(error.Numero(), errors::refusat);
+    EXPECT_EQ(error.Origen(), "F_ALBARA");
+    EXPECT_EQ(error.Descripcio(), textos[static_cast<std::size_t>(idioma)]);
+    EXPECT_EQ(pantalla.caixes.back(), (Caixa_Vista{error.Descripcio(), estil::critic, "Brollador"}));
+    EXPECT_TRUE(sessio.Error_Mostrat);
+  }
+  EXPECT_EQ(Estoc("A1", "1").Doble(), 46);
+  EXPECT_EQ(Moviments(), 1);
+}
+
+TEST_F(M_Albarans, a_line_that_another_terminal_deleted_or_put_in_its_place_posts_nothing) {
+  Afegir();
+  Afegir();
+  Executar("DELETE * FROM ALBARALIN WHERE LIN_AL = 1");
+  EXPECT_EQ(Error_De([&] { Esborrar(1, 4); }).Numero(), errors::concurrencia);
+  Executar("UPDATE ALBARALIN SET ARTICLE_AL = 'B2'");
+  EXPECT_EQ(Error_De([&] { Esborrar(2, 4); }).Numero(), errors::concurrencia);
+  EXPECT_EQ(Linies(), 1);
+  EXPECT_EQ(Estoc("A1", "1").Doble(), 42);
+  EXPECT_EQ(Moviments(), 2);
 }
 
 TEST_F(M_Albarans, a_deleted_line_gives_its_stock_back) {
@@ -369,7 +398,7 @@ TEST_F(M_Albarans, a_customer_without_IVA_takes_the_rates_off_and_leaves_net_pri
   EXPECT_DOUBLE_EQ(Camp("PVP_AL"), 15.13);
   EXPECT_EQ(obert.import, 50);
   EXPECT_EQ(Text("SELECT TIPUS_IVA_AP FROM ALBARAPEU"), "EX");
-  EXPECT_FALSE(sessio.Transaccio_Oberta);
+  EXPECT_FALSE(sessio.Transaccio_Oberta());
 }
 
 TEST_F(M_Albarans, a_customer_with_surcharge_puts_it_on_every_line_and_on_a_foot_made_anew) {
@@ -400,5 +429,5 @@ TEST_F(M_Albarans, a_recalculation_that_fails_leaves_the_lines_as_they_were) {
   EXPECT_EQ(Error_De([&] { Recalcular_Linies_Albara(cap, obert); }).Numero(), errors::tipus);
   EXPECT_EQ(Camp("PORC_IVA_AL"), 21);
   EXPECT_EQ(Files(SQL_Peu(tipus_albara, 7, empresa_prova)), 1);
-  EXPECT_FALSE(sessio.Transaccio_Oberta);
+  EXPECT_FALSE(sessio.Transaccio_Oberta());
 }

@@ -76,10 +76,10 @@ TEST_F(M_Clients, the_addresses_of_a_list_come_by_code_without_the_empty_ones) {
 }
 
 TEST_F(M_Clients, the_addresses_of_a_long_list_take_several_statements) {
-  sessio.Connexio_Comuna.BeginTrans();
+  Transaccio transaccio(sessio.Connexio_Comuna);
   for (int i = 0; i < 1200; ++i)
     sessio.Connexio_Comuna.Afegir_Fila("CLIENTS", {{"NIF_CLI", std::to_string(10000 + i)}, {"EMAIL_CLI", "x"}});
-  sessio.Connexio_Comuna.CommitTrans();
+  transaccio.Confirmar();
   Recordset tots(SQL_Clients(""), sessio.Connexio_Comuna);
   EXPECT_EQ(Emails_Clients(tots).size(), 1200U * 2 - 1);
 }

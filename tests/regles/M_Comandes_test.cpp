@@ -20,6 +20,17 @@ TEST_F(M_Comandes, an_order_served_in_part_is_open_and_served_whole_is_not) {
   EXPECT_EQ(Estat_Comanda(3), -1);
 }
 
+TEST_F(M_Comandes, fractions_that_add_up_to_what_was_ordered_serve_it) {
+  Posar_Linia_Comanda(3, 2, 0.3);
+  Servir(10);
+  for (const double unitats : {0.1, 0.1, 0.1}) Servir_Linia_Comanda(3, empresa_prova, 2, unitats);
+  EXPECT_EQ(Servides(3, 2), 0.3);
+  EXPECT_EQ(Estat_Comanda(3), -1);
+  Executar("UPDATE COMANDALIN SET UNITATS_CL = 1.1, SERVIDES_CL = 0 WHERE LIN_CL = 2");
+  for (const double unitats : {0.7, 0.4}) Servir_Linia_Comanda(3, empresa_prova, 2, unitats);
+  EXPECT_EQ(Estat_Comanda(3), -1);
+}
+
 TEST_F(M_Comandes, more_may_be_served_than_was_ordered) {
   Servir(12);
   EXPECT_EQ(Servides(3, 1), 12);

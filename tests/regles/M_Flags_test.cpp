@@ -117,7 +117,7 @@ TEST_F(M_Flags, the_events_run_once_a_pass) {
 
 TEST_F(M_Flags, a_walk_inside_a_transaction_goes_with_it) {
   {
-    const Transaccio transaccio;
+    const Transaccio transaccio(sessio.Connexio_Comuna);
     Propagar_Flag_Pagaments("A", 1);
     EXPECT_TRUE(Flag_Pagament("A", 1));
   }
@@ -129,7 +129,7 @@ TEST_F(M_Flags, a_walk_inside_a_transaction_goes_with_it) {
 class Linia_Nova : public M_Flags {
  protected:
   static void Comprovar(std::int64_t albara, std::int64_t comanda) {
-    Transaccio transaccio;
+    Transaccio transaccio(sessio.Connexio_Comuna);
     Cadena cadena({{'A', albara}, {'P', comanda}});
     Comprovar_Linia_Albara(cadena, albara, comanda);
     transaccio.Confirmar();

@@ -1,6 +1,11 @@
-// What a delivery note shows on paper, before there is any paper.
+// What a document shows on paper, before there is any paper.
 #include "output/M_Impressio.h"
 
+#include <algorithm>
+
+#include "masters/M_Clients.h"
+#include "sales/M_Tipus_Venda.h"
+#include "stock/M_Tipus_Estoc.h"
 #include "tests/regles/Base.h"
 
 namespace {
@@ -32,15 +37,44 @@ class M_Impressio : public Base_Dades {
         Numero_SQL(iva) + ", " + Numero_SQL(porc_re) + ", " + Numero_SQL(re) + ", " + Numero_SQL(base + iva + re) +
         ")");
   }
-  static void Omplir() { Omplir_Taula_Impressio(tipus_albara, numero, empresa_prova); }
+  static const Descripcio_Impressio& Albara() { return Informe_De(tipus_albara); }
+  static void Omplir() { Omplir_Taula_Impressio(Albara(), numero, empresa_prova); }
+  static Ompliment_Informe Ompliment(const Tipus_Document& tipus = tipus_albara, bool valorat = true) {
+    return Omplir_Informe(Informe_De(tipus), tipus.numero_es_text ? Valor("7") : Valor(numero), empresa_prova, valorat);
+  }
+  static std::string Text_Impres(const Ompliment_Informe& ompliment, const std::string& control) {
+    const std::string* text = ompliment.Text_De(control);
+    return text == nullptr ? "(none)" : *text;
+  }
+  static bool Amagat(const Ompliment_Informe& ompliment, const std::string& control) {
+    return std::count(ompliment.amagats.begin(), ompliment.amagats.end(), control) > 0;
+  }
+  // A head of any kind, for a customer (or a supplier) of code B1.
+  static void Posar_Cap(const Tipus_Document& tipus) {
+    const bool compra = &tipus == &tipus_albcompra;
+    Executar("INSERT INTO " + std::string(tipus.cap.nom) + " (" + tipus.cap.Columna("NUMALB") + ", " +
+             tipus.cap.Columna("EMPRESA") + ", " + tipus.cap.Columna("DATA") + ", " +
+             tipus.cap.Columna(compra ? "PROVEIDOR" : "CLIENT") + ", " + tipus.cap.Columna("OBSR") + ") VALUES(" +
+             (compra ? "'7'" : "7") + ", '" + empresa_prova + "', #3/5/2026#, 'B1', 'Matins')");
+  }
+  static void Posar_Client() {
+    Executar(
+        "INSERT INTO VENCIMENTS (CODI_VEN, DESCRIPCIO_VEN, DIES_VEN, TERMINIS_VEN) VALUES('T2', 'Dos terminis', 30, "
+        "2)");
+    Executar(
+        "INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI, NOM_COMERCIAL_CLI, ADREÇA_CLI, CP_CLI, LOCALITAT_CLI, "
+        "CODI_CLIENT_CLI, VENCIMENT_CLI, COMPTE_CLI) VALUES('B1', 'Puig, S.L.', 'Obres', 'Riu, 45', '08500', 'Vic', "
+        "'C-77', 'T2', 'ES12')");
+    Executar("INSERT INTO PROVEIDORS (NIF_PRO, RAO_SOCIAL_PRO, ADREÇA_PRO) VALUES('B1', 'Metalls, S.A.', 'Polígon 4')");
+  }
   static std::int64_t Files_Impressio() {
-    return Recordset(SQL_Impressio(tipus_albara), sessio.Connexio_Local).RecordCount();
+    return Recordset(SQL_Impressio(Albara()), sessio.Connexio_Local).RecordCount();
   }
   static std::string Descripcio_Impresa(const std::string& descripcio) {
     Posar_Albara(numero);
     Posar_Linia(1, descripcio, 1, 1, 0, 1);
     Omplir();
-    return Recordset(SQL_Impressio(tipus_albara), sessio.Connexio_Local)["DESCRIPCIO_AL"].Text();
+    return Recordset(SQL_Impressio(Albara()), sessio.Connexio_Local)["DESCRIPCIO_AL"].Text();
   }
 };
 
@@ -51,7 +85,7 @@ TEST_F(M_Impressio, TheWorkTableTakesTheLinesInTheirOrder) {
   Posar_Linia(2, "segona", 3, 5, 10, 13.5);
   Posar_Linia(1, "primera", 1, 2.5, 0, 2.5);
   Omplir();
-  Recordset rs(SQL_Impressio(tipus_albara), sessio.Connexio_Local);
+  Recordset rs(SQL_Impressio(Albara()), sessio.Connexio_Local);
   ASSERT_EQ(rs.RecordCount(), 2);
   EXPECT_EQ(rs["DESCRIPCIO_AL"].Text(), "primera");
   rs.MoveNext();
@@ -65,9 +99,10 @@ TEST_F(M_Impressio, TheWorkTableTakesTheLinesInTheirOrder) {
 }
 
 TEST_F(M_Impressio, TheWorkTableIsTheTerminalsOwn) {
-  EXPECT_EQ(Taula_Impressio(tipus_albara), "ALBARALIN_VALORAT_IMPR");
-  EXPECT_NE(sessio.Connexio_Local.Taules().Cercar("ALBARALIN_VALORAT_IMPR"), nullptr);
-  EXPECT_EQ(sessio.Connexio_Comuna.Taules().Cercar("ALBARALIN_VALORAT_IMPR"), nullptr);
+  for (const auto& informe : Informes_De_Documents()) {
+    EXPECT_NE(sessio.Connexio_Local.Taules().Cercar(informe.taula.nom), nullptr) << informe.informe;
+    EXPECT_EQ(sessio.Connexio_Comuna.Taules().Cercar(informe.taula.nom), nullptr) << informe.informe;
+  }
 }
 
 TEST_F(M_Impressio, OnlyTheLinesOfThatDocumentAndCompanyAreCopied) {
@@ -77,7 +112,7 @@ TEST_F(M_Impressio, OnlyTheLinesOfThatDocumentAndCompanyAreCopied) {
   Posar_Linia_Albara(8, 1, 21, 5, 6.05);
   Omplir();
   EXPECT_EQ(Files_Impressio(), 1);
-  Omplir_Taula_Impressio(tipus_albara, numero, "B11111111");
+  Omplir_Taula_Impressio(Albara(), numero, "B11111111");
   EXPECT_EQ(Files_Impressio(), 0);
 }
 
@@ -87,7 +122,7 @@ TEST_F(M_Impressio, FillingStartsFromAnEmptyTable) {
   Omplir();
   Omplir();
   EXPECT_EQ(Files_Impressio(), 1);
-  Buidar_Taula_Impressio(tipus_albara);
+  Buidar_Taula_Impressio(Albara());
   EXPECT_EQ(Files_Impressio(), 0);
 }
 
@@ -104,34 +139,170 @@ TEST_F(M_Impressio, TheNetIsTheSumOfTheWorkTable) {
   Posar_Linia(1, "una", 1, 10, 0, 10);
   Posar_Linia(2, "abonament", -1, 2.5, 0, -2.5);
   Omplir();
-  EXPECT_DOUBLE_EQ(Net_Impres(tipus_albara), 7.5);
+  EXPECT_EQ(Text_Impres(Ompliment(), "L_NETO_IMP"), "7,50");
 }
 
 TEST_F(M_Impressio, TheNetOfNothingIsZero) {
-  EXPECT_EQ(Net_Impres(tipus_albara), 0);
+  EXPECT_EQ(Text_Impres(Ompliment(), "L_NETO_IMP"), "0,00");
 }
 
 TEST_F(M_Impressio, FootRowsComeByTaxCodeUnderTheirMaskAndAddUp) {
   Posar_Albara(numero);
   Posar_Peu("RD", 10, 50, 5, 1.4, 0.7);
   Posar_Peu("GN", 21, 1234.5, 259.25, 0, 0);
-  const Peu_Impres peu = Dades_Peu(tipus_albara, numero, empresa_prova);
-  ASSERT_EQ(peu.files.size(), 2U);
-  EXPECT_EQ(peu.files[0], (Fila_Peu_Impres{"1.234,50", "21,00", "259,25", "0,00", "0,00", "1.493,75"}));
-  EXPECT_EQ(peu.files[1], (Fila_Peu_Impres{"50,00", "10,00", "5,00", "1,40", "0,70", "55,70"}));
-  EXPECT_DOUBLE_EQ(peu.total, 1549.45);
+  const auto ompliment = Ompliment();
+  const auto fila = [&](const std::string& n) {
+    std::string textos;
+    for (const char* nom : {"L_BASE_", "L_IVA_PORC_", "L_IVA_IMP_", "L_RE_PORC_", "L_RE_IMP_", "L_IMPORT_BRUT_"}) {
+      textos += Text_Impres(ompliment, nom + n) + "|";
+    }
+    return textos;
+  };
+  EXPECT_EQ(fila("1"), "1.234,50|21,00|259,25|0,00|0,00|1.493,75|");
+  EXPECT_EQ(fila("2"), "50,00|10,00|5,00|1,40|0,70|55,70|");
+  EXPECT_EQ(fila("3"), "||||||");
+  EXPECT_EQ(fila("4"), "||||||");
+  EXPECT_EQ(fila("5"), "(none)|(none)|(none)|(none)|(none)|(none)|");
+  EXPECT_EQ(Text_Impres(ompliment, "L_IMPORT_TOTAL_IMP"), "1.549,45");
 }
 
-TEST_F(M_Impressio, TheHeadGivesDateCustomerAndRemarks) {
-  Executar("INSERT INTO ALBARACAP (NUMALB_AC, EMPRESA_AC, DATA_AC, CLIENT_AC, OBSR_AC) VALUES(7, '" + empresa_prova +
-           "', #3/5/2026#, 'B1', 'Matins')");
-  const Capcalera_Impressa cap = Dades_Capcalera(tipus_albara, numero, empresa_prova);
-  EXPECT_EQ(cap.data, "05/03/2026");
-  EXPECT_EQ(cap.client, "B1");
-  EXPECT_EQ(cap.observacions, "Matins");
+TEST_F(M_Impressio, AFifthFootRowAsksForALabelThatNoPageHas) {
+  Posar_Albara(numero);
+  for (const int porc : {0, 4, 5, 10, 21}) Posar_Peu("T" + std::to_string(porc), porc, 100, 0, 0, 0);
+  EXPECT_EQ(Text_Impres(Ompliment(), "L_BASE_5"), "100,00");
+}
+
+TEST_F(M_Impressio, TheHeadAndWhoItIsForInEveryKind) {
+  Posar_Client();
+  for (const auto& informe : Informes_De_Documents()) {
+    Posar_Cap(informe.Tipus());
+    const auto ompliment = Ompliment(informe.Tipus());
+    const bool compra = informe.destinatari == Destinatari::Proveidor;
+    EXPECT_EQ(Text_Impres(ompliment, "L_TXT_ALBARA"), "7") << informe.informe;
+    EXPECT_EQ(Text_Impres(ompliment, "L_TXT_DATA"), "05/03/2026") << informe.informe;
+    EXPECT_EQ(Text_Impres(ompliment, "L_TXT_OBSR"), "Matins") << informe.informe;
+    EXPECT_EQ(Text_Impres(ompliment, "L_TXT_NIF"), "B1") << informe.informe;
+    EXPECT_EQ(Text_Impres(ompliment, "L_NOM_FISCAL"), compra ? "Metalls, S.A." : "Puig, S.L.") << informe.informe;
+    EXPECT_EQ(Text_Impres(ompliment, "L_DIRECCIO"), compra ? "Polígon 4" : "Riu, 45") << informe.informe;
+  }
 }
 
 TEST_F(M_Impressio, AHeadThatIsNotThereGivesEmptyTexts) {
-  const Capcalera_Impressa cap = Dades_Capcalera(tipus_albara, numero, empresa_prova);
-  EXPECT_EQ(cap.data + cap.client + cap.observacions, "");
+  const auto ompliment = Ompliment();
+  for (const char* control : {"L_TXT_DATA", "L_TXT_OBSR", "L_NOM_FISCAL"})
+    EXPECT_EQ(Text_Impres(ompliment, control), "");
+}
+
+TEST_F(M_Impressio, WhatTellsTheReportsApart) {
+  Executar(
+      "UPDATE EMPRESES SET ADREÇA_EMP = 'Major, 1', TELEFON_EMP = '93', IMATGE_EMP = '/logo.png', COMENTARI_EMP = "
+      "'Hola', "
+      "PRESS_PEU1_EMP = 'p1', PRESS_PEU2_EMP = 'p2', FACT_PEU1_EMP = 'f1'");
+  struct Esperat {
+    const Tipus_Document& tipus;
+    const char* adreca;
+    bool logo;
+    const char* peu1;
+    const char* peu2;
+    const char* factura;
+    bool venciments;
+  };
+  const char* cap = "(none)";
+  Posar_Client();
+  for (const auto& e : {Esperat{tipus_pressupost, "Major, 1 - Tel. 93", true, "p1", "p2", cap, false},
+                        Esperat{tipus_comanda, "Major, 1 - Tel. 93", false, cap, cap, cap, false},
+                        Esperat{tipus_albara, "Major, 1 - Tel. 93", false, cap, cap, cap, false},
+                        Esperat{tipus_factura, "Major, 1 - 93", true, cap, cap, "f1", true},
+                        Esperat{tipus_albcompra, "Major, 1 - Tel. 93", false, cap, cap, cap, false}}) {
+    Posar_Cap(e.tipus);
+    Executar("INSERT INTO " + std::string(e.tipus.peu.nom) + " (" + e.tipus.peu.Columna("NUMALB") + ", " +
+             e.tipus.peu.Columna("EMPRESA") + ", " + e.tipus.peu.Columna("IMPORT") + ") VALUES(" +
+             (e.tipus.numero_es_text ? "'7'" : "7") + ", '" + empresa_prova + "', 121)");
+    const auto ompliment = Ompliment(e.tipus);
+    SCOPED_TRACE(e.tipus.formulari);
+    EXPECT_EQ(Text_Impres(ompliment, "L_ADREÇA_EMP"), e.adreca);
+    EXPECT_EQ(ompliment.imatge, e.logo ? "/logo.png" : "");
+    EXPECT_EQ(Text_Impres(ompliment, "L_COMENTARI_EMP"), e.logo ? "Hola" : cap);
+    EXPECT_EQ(Text_Impres(ompliment, "L_PRESS_PEU1_EMP"), e.peu1);
+    EXPECT_EQ(Text_Impres(ompliment, "L_PRESS_PEU2_EMP"), e.peu2);
+    EXPECT_EQ(Text_Impres(ompliment, "L_FACT_PEU1_EMP"), e.factura);
+    EXPECT_EQ(Text_Impres(ompliment, "L_TXT_PAGAMENT"), e.venciments ? "Dos terminis (ES12)" : cap);
+    EXPECT_EQ(Text_Impres(ompliment, "L_TXT_VENCIMENTS"),
+              e.venciments ? Venciments_Factura("B1", {2026, 3, 5}, 121)[2] : cap);
+  }
+}
+
+TEST_F(M_Impressio, WithoutATermTheDueDatesAreHidden) {
+  Posar_Client();
+  Posar_Cap(tipus_factura);
+  Executar("UPDATE CLIENTS SET VENCIMENT_CLI = ''");
+  const auto ompliment = Ompliment(tipus_factura);
+  for (const char* control : {"L_VENCIMENTS", "L_TXT_PAGAMENT", "L_TXT_VENCIMENTS"})
+    EXPECT_TRUE(Amagat(ompliment, control));
+}
+
+TEST_F(M_Impressio, TheCustomersCodeIsShownWhenTheParameterIsExactlyTrue) {
+  Posar_Client();
+  Posar_Cap(tipus_factura);
+  sessio.Parametres["P_Codi_Client_Visible"] = "True";
+  EXPECT_EQ(Text_Impres(Ompliment(tipus_factura), "L_TXT_CODI_CLIENT"), "C-77");
+  EXPECT_FALSE(Amagat(Ompliment(tipus_factura), "L_CODI_CLIENT"));
+  for (const char* valor : {"true", "TRUE", "-1", ""}) {
+    sessio.Parametres["P_Codi_Client_Visible"] = valor;
+    EXPECT_EQ(Text_Impres(Ompliment(tipus_factura), "L_TXT_CODI_CLIENT"), "") << valor;
+    EXPECT_TRUE(Amagat(Ompliment(tipus_factura), "L_CODI_CLIENT")) << valor;
+  }
+}
+
+TEST_F(M_Impressio, TheTopOfTheCompanysBlockIsAParameterOfTheReportsWithALogo) {
+  Posar_Cap(tipus_factura);
+  EXPECT_EQ(Ompliment(tipus_factura).posicio_top, 0);
+  sessio.Parametres["P_Posicio_Top"] = "1200";
+  EXPECT_EQ(Ompliment(tipus_factura).posicio_top, 1200);
+  sessio.Parametres["P_Posicio_Top"] = "alt";
+  EXPECT_EQ(Error_De([] { Ompliment(tipus_factura); }).Numero(), errors::tipus);
+  EXPECT_EQ(Ompliment(tipus_albara).posicio_top, 0) << "the others do not read it";
+}
+
+TEST_F(M_Impressio, WithoutPricesTheirFieldsAndTitlesGoAndTheFootStays) {
+  Posar_Albara(numero);
+  Posar_Peu("GN", 21, 100, 21, 0, 0);
+  const auto ompliment = Ompliment(tipus_albara, false);
+  for (const char* paper : {"PREU_UNITARI_AL", "DTE_AL", "TOTAL_IMPORT_AL"}) {
+    EXPECT_TRUE(Amagat(ompliment, std::string("TXT_") + paper)) << paper;
+    EXPECT_EQ(Text_Impres(ompliment, std::string("L_") + paper), " ") << paper;
+  }
+  EXPECT_FALSE(Amagat(ompliment, "TXT_UNITATS_AL"));
+  EXPECT_EQ(Text_Impres(ompliment, "L_IMPORT_TOTAL_IMP"), "121,00");
+}
+
+TEST_F(M_Impressio, TheTitleOfTheDiscountsStandsWhenALineHasOne) {
+  Posar_Albara(numero);
+  Posar_Linia(1, "una", 1, 10, 0, 10);
+  EXPECT_EQ(Text_Impres(Ompliment(), "L_DTE_AL"), " ");
+  Posar_Linia(2, "dues", 1, 10, 5, 9.5);
+  EXPECT_EQ(Text_Impres(Ompliment(), "L_DTE_AL"), "(none)");
+}
+
+TEST_F(M_Impressio, APurchaseNoteGoesThroughTheWorkTableOfTheNotesWithItsCosts) {
+  Posar_Cap(tipus_albcompra);
+  Executar(
+      "INSERT INTO ALBCOMPRALIN (NUMALB_ACL, EMPRESA_ACL, LIN_ACL, ARTICLE_ACL, DESCRIPCIO_ACL, UNITATS_ACL, COST_ACL, "
+      "PREU_UNITARI_ACL, DTE_ACL, IMPORT_NET_ACL) VALUES('7', '" +
+      empresa_prova + "', 1, 'A1', 'Cargol', 3, 10, 99, 50, 15)");
+  Omplir_Taula_Impressio(Informe_De(tipus_albcompra), "7", empresa_prova);
+  Recordset rs("SELECT * FROM ALBARALIN_VALORAT_IMPR", sessio.Connexio_Local);
+  ASSERT_EQ(rs.RecordCount(), 1);
+  EXPECT_EQ(rs["ARTICLE_AL"].Text(), "A1");
+  EXPECT_EQ(rs["UNITATS_AL"].Doble(), 3);
+  EXPECT_EQ(rs["PREU_UNITARI_AL"].Doble(), 10);
+  EXPECT_TRUE(rs["DTE_AL"].Es_Nul());
+  EXPECT_EQ(rs["TOTAL_IMPORT_AL"].Doble(), 15);
+  const auto ompliment = Ompliment(tipus_albcompra);
+  EXPECT_EQ(ompliment.formats.size(), 3U) << "units, cost, amount";
+  EXPECT_EQ(Text_Impres(ompliment, "L_NETO_IMP"), "15,00");
+}
+
+TEST_F(M_Impressio, AKindThatIsNotPrintedIsAnError) {
+  EXPECT_EQ(Error_De([] { Informe_De(tipus_albmag); }).Numero(), errors::general);
 }

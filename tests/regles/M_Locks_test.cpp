@@ -23,7 +23,7 @@ TEST_F(M_Locks, a_document_in_use_refuses_a_second_terminal_and_the_same_one_aga
   EXPECT_FALSE(Bloquejar_Document("P", empresa_prova, "7"));
   Canviar_De_Terminal();
   EXPECT_FALSE(Bloquejar_Document("P", empresa_prova, "7"));
-  EXPECT_FALSE(sessio.Transaccio_Oberta);
+  EXPECT_FALSE(sessio.Transaccio_Oberta());
   EXPECT_EQ(Locks(), 1);
 }
 
@@ -51,12 +51,26 @@ TEST_F(M_Locks, releasing_removes_the_row_whoever_holds_it) {
   EXPECT_EQ(Locks(), 0);
 }
 
-TEST_F(M_Locks, a_lock_inside_a_running_transaction_commits_it) {
-  const Transaccio transaccio;
-  Executar("INSERT INTO MARQUES (CODI_MAR) VALUES('M')");
+TEST_F(M_Locks, a_running_transaction_is_neither_committed_nor_undone_by_a_lock) {
+  ASSERT_TRUE(Bloquejar_Document("P", empresa_prova, "6"));
+  {
+    const Transaccio transaccio(sessio.Connexio_Comuna);
+    Executar("INSERT INTO MARQUES (CODI_MAR) VALUES('M')");
+    EXPECT_TRUE(Bloquejar_Document("P", empresa_prova, "7"));
+    EXPECT_FALSE(Bloquejar_Document("P", empresa_prova, "7"));
+    EXPECT_TRUE(Desbloquejar_Document("P", empresa_prova, "6"));
+    EXPECT_TRUE(sessio.Transaccio_Oberta());
+  }
+  EXPECT_EQ(Files("SELECT * FROM MARQUES"), 0);
+  EXPECT_EQ(Text("SELECT NUMERO_LCK FROM LOCKS"), "6");
+}
+
+TEST_F(M_Locks, a_lock_that_is_refused_leaves_the_transaction_to_whoever_began_it) {
   ASSERT_TRUE(Bloquejar_Document("P", empresa_prova, "7"));
-  EXPECT_FALSE(sessio.Transaccio_Oberta);
-  Desfer_Transaccio();
+  Transaccio transaccio(sessio.Connexio_Comuna);
+  Executar("INSERT INTO MARQUES (CODI_MAR) VALUES('M')");
+  EXPECT_FALSE(Bloquejar_Document("P", empresa_prova, "7"));
+  transaccio.Confirmar();
   EXPECT_EQ(Files("SELECT * FROM MARQUES"), 1);
 }
 

@@ -1,5 +1,7 @@
 #include "documents/M_Peu.h"
 
+#include "sales/M_Tipus_Venda.h"
+#include "stock/M_Tipus_Estoc.h"
 #include "tests/regles/Base.h"
 
 class M_Peu : public Base_Dades {
@@ -51,6 +53,19 @@ TEST_F(M_Peu, without_lines_no_row_is_touched_and_the_total_is_what_the_foot_say
   EXPECT_EQ(obert.import, 121);
   Buidar_Peu(tipus_albara, 7, empresa_prova);
   Refer();
+  EXPECT_EQ(obert.import, 0);
+}
+
+TEST_F(M_Peu, cents_that_cancel_out_come_to_0) {
+  Posar_Linia_Albara(7, 1, 21, 0.10, 0.12);
+  Refer();
+  Posar_Linia_Albara(7, 2, 21, 0.20, 0.24);
+  Refer();
+  EXPECT_EQ(Camp("BASE_AP", 21), 0.3);
+  EXPECT_EQ(Camp("IMPORT_AP", 21), 0.36);
+  Posar_Linia_Albara(7, 3, 21, -0.30, -0.36);
+  Refer();
+  EXPECT_EQ(Files_Peu(), 0);
   EXPECT_EQ(obert.import, 0);
 }
 

@@ -5,6 +5,7 @@
 
 #include "core/dades/Esquema_PostgreSQL.h"
 #include "core/dades/Motor.h"
+#include "core/dades/Transaccio.h"
 #include "schema/Actualitzador.h"
 #include "schema/Definicions.h"
 #include "tests/regles/Base.h"

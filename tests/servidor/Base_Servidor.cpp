@@ -32,8 +32,8 @@ std::string Adreca_De(const std::string& base) {
   return adreca.insert(adreca.find("///") + 3, base);
 }
 
-void Manar(const std::string& sql) {
-  const std::unique_ptr<PGconn, decltype(&PQfinish)> connexio(PQconnectdb(Adreca_De("postgres").c_str()), PQfinish);
+void Manar(const std::string& sql, const std::string& base = "postgres") {
+  const std::unique_ptr<PGconn, decltype(&PQfinish)> connexio(PQconnectdb(Adreca_De(base).c_str()), PQfinish);
   const std::unique_ptr<PGresult, decltype(&PQclear)> resultat(PQexec(connexio.get(), sql.c_str()), PQclear);
   const ExecStatusType estat = PQresultStatus(resultat.get());
   if (estat != PGRES_COMMAND_OK && estat != PGRES_TUPLES_OK) throw std::runtime_error(PQerrorMessage(connexio.get()));
@@ -96,4 +96,13 @@ void Base_Servidor::Marxar() const {
 
 void Base_Servidor::Tornar() const {
   Manar("ALTER DATABASE " + nom_ + " ALLOW_CONNECTIONS true");
+}
+
+void Base_Servidor::Fixar_Avui(const std::string& dia) const {
+  Manar(
+      "DO $d$ DECLARE e text; BEGIN FOR e IN SELECT n.nspname FROM pg_proc p JOIN pg_namespace n "
+      "ON n.oid = p.pronamespace WHERE p.proname = 'br_now' LOOP EXECUTE format('CREATE OR REPLACE FUNCTION "
+      "%I.br_now() RETURNS timestamp(0) LANGUAGE sql VOLATILE AS %L', e, 'SELECT (date ''" +
+          dia + "'' + localtime(0))::timestamp(0)'); END LOOP; END $d$",
+      nom_);
 }

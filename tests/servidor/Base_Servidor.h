@@ -33,6 +33,8 @@ class Base_Servidor {
   void Tornar() const;
   // One that a test made there by other means.
   static void Esborrar(const std::string& nom);
+  // Its clock stands on that day, YYYY-MM-DD.
+  void Fixar_Avui(const std::string& dia) const;
 
  private:
   std::string nom_;

@@ -128,7 +128,23 @@ Desacord Comparar_PDF(const QString& fitxer, const QString& que, const QString& 
     return vist.toInt() == esperat.toInt() ? Desacord() : QStringLiteral("%1 pages").arg(vist);
   }
   const QString text = Un_Blanc(Sortida(QStringLiteral("pdftotext"), {"-layout", fitxer, "-"}));
-  return text.contains(Un_Blanc(esperat)) ? Desacord() : text;
+  const bool ha_de_ser = que == QLatin1String("~");
+  return text.contains(Un_Blanc(esperat)) == ha_de_ser ? Desacord() : text;
+}
+
+Desacord Comparar_Fila_De_PDF(const QString& fitxer, const QString& comenca, const QString& esperat) {
+  QStringList mots = Partir_Per_Barres(esperat);
+  mots.removeAll(QString());
+  const QString fila = Un_Blanc(mots.join(u' '));
+  const QString inici = Un_Blanc(comenca);
+  QStringList vistes;
+  for (const QString& linia : Sortida(QStringLiteral("pdftotext"), {"-layout", fitxer, "-"}).split(u'\n')) {
+    const QString vista = Un_Blanc(linia);
+    if (vista != inici && !vista.startsWith(inici + u' ')) continue;
+    if (vista == fila || vista == Un_Blanc(inici + u' ' + fila)) return std::nullopt;
+    vistes << vista;
+  }
+  return vistes.isEmpty() ? QStringLiteral("no line begins so") : vistes.join(QStringLiteral(" / "));
 }
 
 Desacord Comparar_Cella(const QString& llibre, const QString& cella, const QString& esperat) {

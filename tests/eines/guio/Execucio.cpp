@@ -5,7 +5,10 @@
 #include <QFileInfo>
 #include <cstdio>
 
+#include "core/M_Funcions_Comuns.h"
+#include "core/dades/Dates.h"
 #include "core/dades/Error_Brollador.h"
+#include "core/dades/Numeros.h"
 #include "tests/eines/guio/Comparar.h"
 
 namespace {
@@ -24,6 +27,7 @@ Execucio::Execucio(const Guio& guio, const Opcions_Execucio& opcions)
     : guio_(guio), opcions_(opcions), installacio_(opcions.base, opcions.guardar) {}
 
 int Execucio::Executar() {
+  Deixar_Anar_Rellotge();
   for (const Ordre& ordre : guio_.ordres) {
     try {
       Executar(ordre);
@@ -62,6 +66,7 @@ void Execucio::Executar_Aqui(const Ordre& ordre) {
       {"terminal", &Execucio::Canviar_Terminal},
       {"kill", &Execucio::Kill},
       {"server", &Execucio::Servidor},
+      {"folder", &Execucio::Folder},
       {"expect", &Execucio::Comprovar},
   };
   (this->*rutines.at(ordre.mots.first()))(ordre.mots);
@@ -90,7 +95,7 @@ QStringList Execucio::Mots_Per_Terminal(const Ordre& ordre) const {
 }
 
 void Execucio::Enviar_I_Esperar(const Ordre& ordre) {
-  static const QStringList abans_de_start = {"company", "answer"};
+  static const QStringList abans_de_start = {"company", "answer", "answer_print"};
   // No form is open where no program runs.
   static const QStringList cap_programa = {"state", "closed"};
   if (!Actual().Engegat() && ordre.mots.mid(3) == cap_programa) return;
@@ -162,8 +167,13 @@ void Execucio::Ini(const QStringList& mots) {
   if (!fitxer.open(QIODevice::WriteOnly) || fitxer.write(text.toUtf8()) < 0) throw Error_Guio(fitxer.errorString());
 }
 
+// The clock of the terminals, of this process's own statements and of the server.
 void Execucio::Today(const QStringList& mots) {
   avui_ = mots[1];
+  const auto dia = Data_De_Text(avui_.toStdString());
+  if (!dia) throw Error_Guio(QStringLiteral("%1 is no date").arg(avui_));
+  Fixar_Avui(*dia);
+  if (Proves_Al_Servidor()) installacio_.Al_Servidor().Fixar_Avui(Data_Desada(*dia));
   for (const auto& [numero, terminal] : installacio_.Terminals()) {
     if (!terminal->Engegat()) continue;
     terminal->Enviar(mots);
@@ -199,6 +209,12 @@ void Execucio::Servidor(const QStringList& mots) {
   if (mots[1] == QLatin1String("away")) return base.Marxar();
   if (mots[1] == QLatin1String("back")) return base.Tornar();
   base.Tallar();
+}
+
+void Execucio::Folder(const QStringList&) {
+  QDir carpeta(Actual().Temporals());
+  if (carpeta.exists() && !carpeta.removeRecursively())
+    throw Error_Guio(QStringLiteral("%1 cannot be removed").arg(carpeta.path()));
 }
 
 void Execucio::Comprovar(const QStringList& mots) {
@@ -255,7 +271,13 @@ void Execucio::Comprovar_Impres(const QStringList& mots) {
     if (!feines.isEmpty()) throw Error_Guio(QStringLiteral("%1 print jobs").arg(feines.size()));
     return;
   }
+  if (mots[1] == QLatin1String("jobs")) {
+    if (feines.size() != mots[2].toInt()) throw Error_Guio(QStringLiteral("%1 print jobs").arg(feines.size()));
+    return;
+  }
   if (feines.isEmpty()) throw Error_Guio(QStringLiteral("nothing was printed"));
+  if (mots[1] == QLatin1String("row"))
+    return Exigir(Comparar_Fila_De_PDF(carpeta.filePath(feines.first()), mots[2], mots[3]));
   Exigir(Comparar_PDF(carpeta.filePath(feines.first()), mots[1], mots[2]));
 }
 

@@ -38,6 +38,7 @@ class Execucio {
   void Canviar_Terminal(const QStringList& mots);
   void Kill(const QStringList& mots);
   void Servidor(const QStringList& mots);
+  void Folder(const QStringList& mots);
 
   void Comprovar(const QStringList& mots);
   void Comprovar_Missatge(const QStringList& mots);

@@ -51,6 +51,7 @@ const std::vector<Forma>& Formes() {
       {"picture", {}, Final::Text, "NAME.png", true},
       {"terminal", {}, Final::Text, "N", false},
       {"kill", {}, Final::Cap, "", false},
+      {"folder", {"Temp"}, Final::Text, "missing", false, {"missing"}},
       {"server", {}, Final::Text, "away|back|cut", false, {"away", "back", "cut"}},
   };
   return formes;
@@ -75,6 +76,20 @@ Ordre Llegir_Amb_Forma(const Forma& forma, Lector& lector) {
   ordre.mots << lector.Resta();
   Comprovar_Valor(forma, ordre.mots.last());
   return ordre;
+}
+
+// What the next print dialog is answered: as many copies, none at all.
+QStringList Llegir_Resposta_Impressio(Lector& lector) {
+  const QString que = lector.Mot("OK|Cancel|copies N");
+  if (que != QLatin1String("copies")) {
+    lector.Final();
+    if (que == QLatin1String("OK")) return {QStringLiteral("answer_print"), QStringLiteral("1")};
+    if (que == QLatin1String("Cancel")) return {QStringLiteral("answer_print"), QStringLiteral("0")};
+    throw Error_Guio(QStringLiteral("%1 is none of OK|Cancel|copies N").arg(que));
+  }
+  const QString quantes = lector.Resta();
+  if (quantes.toInt() < 1) throw Error_Guio(QStringLiteral("%1 is no number of copies").arg(quantes));
+  return {QStringLiteral("answer_print"), quantes};
 }
 
 // Two commands for two terminals, on one line.
@@ -123,6 +138,9 @@ Ordre Llegir_Ordre(const QString& linia) {
     ordre = Llegir_Expect(lector);
   } else if (nom == QLatin1String("together")) {
     ordre = Llegir_Together(lector);
+  } else if (nom == QLatin1String("answer") && lector.Treure(QStringLiteral("print"))) {
+    ordre.mots = Llegir_Resposta_Impressio(lector);
+    ordre.de_terminal = true;
   } else if (nom == QLatin1String("run")) {
     ordre.mots = QStringList{nom} + Llegir_Sentencia(lector.Resta_Tal_Qual());
   } else {

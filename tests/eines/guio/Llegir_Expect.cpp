@@ -6,6 +6,7 @@ namespace {
 
 const QStringList estats_formulari = {"open", "closed", "enabled", "disabled"};
 const QStringList estats_control = {"enabled", "disabled", "visible", "hidden", "focused", "selected"};
+const QStringList estats_cella = {"readonly", "editable"};
 const QStringList estats_menu = {"enabled", "disabled", "hidden", "checked", "unchecked"};
 
 QString Un_De(const QString& mot, const QStringList& valors) {
@@ -54,8 +55,14 @@ QStringList Base_De_Dades(Lector& lector) {
 }
 
 QStringList Paper(Lector& lector) {
-  const QString que = Un_De(lector.Mot("~|pages"), {"~", "pages"});
+  const QString que = Un_De(lector.Mot("~|!~|pages"), {"~", "!~", "pages"});
   return {que, que == QLatin1String("pages") ? Numero(lector.Resta()) : Text(lector, "PART")};
+}
+
+// `TEXT = A | B`: the text may be of several words between quotes.
+QStringList Fila_Impresa(Lector& lector) {
+  const QString comenca = lector.Mot("TEXT");
+  return {QStringLiteral("row"), comenca, Igual(lector)};
 }
 
 QStringList Impres(Lector& lector) {
@@ -63,6 +70,8 @@ QStringList Impres(Lector& lector) {
     lector.Final();
     return {QStringLiteral("nothing")};
   }
+  if (lector.Treure(QStringLiteral("jobs"))) return {QStringLiteral("jobs"), Numero(lector.Resta())};
+  if (lector.Treure(QStringLiteral("row"))) return Fila_Impresa(lector);
   return Paper(lector);
 }
 
@@ -80,6 +89,11 @@ QStringList Fila_Graella(Lector& lector) {
   const QString fila = lector.Mot("N");
   if (lector.Treure(QStringLiteral("style"))) return {fila, QStringLiteral("style"), Text(lector, "NAME")};
   const QString camp = lector.Mot("FIELD");
+  for (const QString& estat : estats_cella) {
+    if (!lector.Treure(estat)) continue;
+    lector.Final();
+    return {fila, camp, estat};
+  }
   return {fila, camp, QStringLiteral("="), Igual(lector)};
 }
 
@@ -95,6 +109,7 @@ Ordre Control(const QString& adreca, Lector& lector) {
   Lector copia = lector;
   const QString mot = copia.Mot("what is expected");
   if (mot == QLatin1String("rows")) return Mirar({"grid", adreca, "rows", Numero(copia.Resta())}, true);
+  if (mot == QLatin1String("columns")) return Mirar({"grid", adreca, "columns", Igual(copia)}, true);
   if (!mot.isEmpty() && mot[0].isDigit()) {
     Numero(mot);
     return Mirar(QStringList{"grid", adreca} + Fila_Graella(lector), true);
@@ -133,6 +148,12 @@ const Mirada mirades[] = {
      [](Lector& l) {
        const QString cella = l.Mot("CELL");
        return QStringList{cella, Igual(l)};
+     }},
+    {"shown", true,
+     [](Lector& l) {
+       const QString etiqueta = l.Mot("FORM.LABEL");
+       Un_De(l.Mot("~"), {"~"});
+       return QStringList{etiqueta, Text(l, "PART")};
      }},
     {"clipboard", true, [](Lector& l) { return QStringList{Igual(l)}; }},
     {"menu", true,

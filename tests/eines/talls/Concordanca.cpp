@@ -5,6 +5,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
 #include "documents/M_Peu.h"
+#include "sales/M_Tipus_Venda.h"
 #include "tests/eines/talls/Magatzem_De_Prova.h"
 
 namespace talls {
@@ -41,7 +42,7 @@ void Comparar_Peu(Queixes& queixes, std::int64_t nota) {
   const double base = Numero("SELECT SUM(BASE_AP) AS S FROM ALBARAPEU WHERE NUMALB_AP = " + std::to_string(nota));
   const double net = Numero("SELECT SUM(IMPORT_NET_AL) AS S FROM ALBARALIN WHERE NUMALB_AL = " + std::to_string(nota));
   Exigir_Iguals(queixes, "bases of note " + std::to_string(nota) + " against its lines", base, net);
-  const Transaccio provisional;
+  const Transaccio provisional(sessio.Connexio_Comuna);
   Buidar_Peu(tipus_albara, nota, empresa);
   Calcular_Peu_Document(tipus_albara, nota, empresa, nota % 2 == 0 ? 1 : 0);
   const std::string refet = Files_Del_Peu(nota);

@@ -63,14 +63,14 @@ void Crear_Magatzem(const std::string& carpeta) {
   Crear_Base(carpeta, Comuna(carpeta));
   Connexio comuna;
   comuna.Open(Comuna(carpeta));
-  comuna.BeginTrans();
+  Transaccio transaccio(comuna);
   comuna.Execute("INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI, IVA_CLI) VALUES ('C1', 'Client de prova', -1)");
   Crear_Articles(comuna);
   Crear_Documents(comuna);
-  comuna.CommitTrans();
+  transaccio.Confirmar();
 }
 
-Resposta Pantalla_Muda::Caixa(const std::string& text, int, const std::string&) {
+Resposta Pantalla_Muda::Obrir_Caixa(const std::string& text, int, const std::string&) {
   caixes.push_back(text);
   return Resposta::Ok;
 }

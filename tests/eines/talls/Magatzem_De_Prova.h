@@ -27,14 +27,13 @@ void Crear_Magatzem(const std::string& carpeta);
 // Answers every question with OK and keeps what errors it was shown.
 class Pantalla_Muda : public Pantalla {
  public:
-  using Pantalla::Caixa;
-  Resposta Caixa(const std::string& text, int estil, const std::string& titol) override;
+  Resposta Obrir_Caixa(const std::string& text, int estil, const std::string& titol) override;
   bool Formulari_Carregat(std::string_view) const override { return false; }
   Document_Obert* Document(std::string_view) override { return nullptr; }
   void Processar_Events() override {}
   void Bloquejar_Entrada() override {}
   void Alliberar_Entrada() override {}
-  std::string Triar_Empresa(const std::string&, int) override { return {}; }
+  std::string Obrir_Tria_Empresa(const std::string&, int) override { return {}; }
   void Menu_Habilitat(std::string_view, bool) override {}
   void Menu_Visible(std::string_view, bool) override {}
   void Menu_Marcat(std::string_view, bool) override {}

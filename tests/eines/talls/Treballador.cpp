@@ -6,6 +6,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "documents/M_Peu.h"
 #include "sales/M_Albarans.h"
+#include "sales/M_Tipus_Venda.h"
 #include "tests/eines/talls/Magatzem_De_Prova.h"
 
 namespace talls {
@@ -67,7 +68,7 @@ class Treballador {
     Formulari_Mut formulari(nota % 2 == 0);
     const Capcalera_Oberta cap{nota, empresa, true, nota % 2 == 0};
     try {
-      Transaccio transaccio;
+      Transaccio transaccio(sessio.Connexio_Comuna);
       Recordset linies(SQL_Linies(tipus_albara, nota, empresa), sessio.Connexio_Comuna, Bloqueig::Optimista);
       Afegir_Linia_Albara(cap, Linia(), linies, formulari);
       transaccio.Confirmar();
@@ -78,7 +79,7 @@ class Treballador {
 
   void Esborrar(std::int64_t nota) {
     Formulari_Mut formulari(nota % 2 == 0);
-    Transaccio transaccio;
+    Transaccio transaccio(sessio.Connexio_Comuna);
     Recordset linies(SQL_Linies(tipus_albara, nota, empresa), sessio.Connexio_Comuna);
     linies.Move(Qualsevol(0, static_cast<int>(linies.RecordCount()) - 1));
     Esborrar_Linia_Albara(nota, empresa, static_cast<std::int16_t>(linies["LIN_AL"].Enter()),

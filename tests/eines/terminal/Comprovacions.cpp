@@ -3,15 +3,18 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 
 #include "core/controls/Controls.h"
 #include "core/controls/Graella.h"
 #include "tests/eines/terminal/Cercar.h"
+#include "tests/eines/terminal/Etiquetes.h"
 #include "tests/eines/terminal/Ma.h"
 #include "tests/eines/terminal/Ordres.h"
 
@@ -104,17 +107,53 @@ QString Text_De_Cella(const Graella& graella, int fila, const QString& camp) {
   return graella.Text_Cella(fila, camp);
 }
 
+// The captions that can be seen, as they stand from left to right.
+QString Titols(const Graella& graella) {
+  QStringList titols;
+  const QHeaderView& capcalera = *graella.horizontalHeader();
+  for (int lloc = 0; lloc < capcalera.count(); ++lloc) {
+    const int columna = capcalera.logicalIndex(lloc);
+    if (!capcalera.isSectionHidden(columna)) titols << graella.Titol_Columna(columna);
+  }
+  return titols.join(QStringLiteral(" | "));
+}
+
+void Estat_Cella(const Graella& graella, const QStringList& mots) {
+  const int columna = graella.Columna_De_Camp(mots[4]);
+  if (columna < 0) throw Error_Guio(QStringLiteral("the grid has no column of %1").arg(mots[4]));
+  const QModelIndex index = graella.model()->index(Numero_De(mots[3]) - 1, columna);
+  const bool editable = graella.isEnabled() && graella.editTriggers() != QAbstractItemView::NoEditTriggers &&
+                        (graella.model()->flags(index) & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable)) != 0;
+  Exigir(editable == (mots[5] == QLatin1String("editable")),
+         editable ? QStringLiteral("editable") : QStringLiteral("readonly"));
+}
+
 void Comprovar_Graella(const QStringList& mots) {
+  static const QRegularExpression blancs_del_voltant(QStringLiteral("^\\s+|\\s+$"));
   const auto& graella = De_Tipus<Graella>(Control(mots[2]), mots[2], "grid");
   if (mots[3] == QLatin1String("rows")) {
     return Exigir(graella.Files() == Numero_De(mots[4]), QStringLiteral("%1 rows").arg(graella.Files()));
   }
+  if (mots[3] == QLatin1String("columns")) {
+    return Exigir_Igual(
+        Titols(graella),
+        mots[4].split(u'|').replaceInStrings(blancs_del_voltant, QString()).join(QStringLiteral(" | ")));
+  }
   const int fila = Numero_De(mots[3]) - 1;
   if (fila < 0 || fila >= graella.Files())
     throw Error_Guio(QStringLiteral("the grid has %1 rows").arg(graella.Files()));
+  if (mots.size() == 6 && mots[4] != QLatin1String("style")) return Estat_Cella(graella, mots);
   if (mots[4] != QLatin1String("style")) return Exigir_Igual(Text_De_Cella(graella, fila, mots[4]), mots[6]);
   const QString estil = graella.Estil(fila);
   Exigir_Igual(estil.isEmpty() ? QStringLiteral("none") : estil, mots[5]);
+}
+
+void Comprovar_Mostrat(const QStringList& mots) {
+  const QStringList textos = Textos_De_L_Etiqueta(mots[2]);
+  for (const QString& text : textos) {
+    if (text.contains(mots[3])) return;
+  }
+  throw Error_Guio(textos.isEmpty() ? QStringLiteral("it showed nothing") : textos.join(QStringLiteral(" / ")));
 }
 
 void Comprovar_Menu(const QStringList& mots) {
@@ -134,5 +173,6 @@ void Ordre_Expect(const QStringList& mots) {
   if (mots[1] == QLatin1String("form")) return Comprovar_Formulari(mots);
   if (mots[1] == QLatin1String("grid")) return Comprovar_Graella(mots);
   if (mots[1] == QLatin1String("menu")) return Comprovar_Menu(mots);
+  if (mots[1] == QLatin1String("shown")) return Comprovar_Mostrat(mots);
   Exigir_Igual(QApplication::clipboard()->text(), mots[2]);
 }

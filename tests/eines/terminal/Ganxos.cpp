@@ -7,6 +7,7 @@
 #include "core/formularis/Pantalla_Qt.h"
 #include "output/informe/Sortida.h"
 #include "shell/Aplicacio.h"
+#include "shell/F_Principal.h"
 #include "tests/eines/guio/Error_Guio.h"
 #include "tests/eines/terminal/Servidor.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 std::deque<Resposta> respostes;
 std::deque<QString> empreses;
+std::deque<int> copies;
 bool engegat = false;
 
 bool Te_Boto(int estil, Resposta resposta) {
@@ -50,6 +52,14 @@ std::string Triar(Servidor& servidor) {
   return nif.toStdString();
 }
 
+// A print dialog that nobody foresaw prints.
+int Imprimir() {
+  if (copies.empty()) return 1;
+  const int quantes = copies.front();
+  copies.pop_front();
+  return quantes;
+}
+
 }  // namespace
 
 void Posar_Ganxos(Servidor& servidor) {
@@ -57,11 +67,15 @@ void Posar_Ganxos(Servidor& servidor) {
     return Contestar(servidor, text, estil, titol);
   };
   Pantalla_Qt::Triador_Empresa = [&servidor](const std::string&, int) { return Triar(servidor); };
+  Fixar_Copies_Treballs(Imprimir);
   Fixar_Carpeta_Treballs(qEnvironmentVariable("PROVA_IMPRESSIONS"));
 }
 
 void Encuar_Resposta(Resposta resposta) {
   respostes.push_back(resposta);
+}
+void Encuar_Copies(int quantes) {
+  copies.push_back(quantes);
 }
 void Encuar_Empresa(const QString& nif) {
   empreses.push_back(nif);
@@ -71,6 +85,9 @@ void Engegar_Programa() {
   if (engegat) throw Error_Guio(QStringLiteral("the program is started already"));
   if (!Inici_Aplicacio()) return QCoreApplication::exit(EXIT_FAILURE);
   engegat = true;
+  // A small display, whatever the platform says of its own.
+  F_Principal::Unica()->showNormal();
+  F_Principal::Unica()->resize(1366, 768);
   // All terminals of a script run on one computer under one user, which would make them the same terminal.
   sessio.Equip_Actual = "terminal " + QCoreApplication::arguments().value(1).toStdString() + "/prova";
 }

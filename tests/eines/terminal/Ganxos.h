@@ -10,6 +10,8 @@ class Servidor;
 // Boxes are told to `servidor`; a question that nobody answered fails the command under way.
 void Posar_Ganxos(Servidor& servidor);
 void Encuar_Resposta(Resposta resposta);
+// How many copies the next print dialog is asked for; 0: it is cancelled.
+void Encuar_Copies(int copies);
 // What the next company chooser is answered; empty: none.
 void Encuar_Empresa(const QString& nif);
 

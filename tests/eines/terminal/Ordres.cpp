@@ -20,6 +20,7 @@
 #include "core/controls/Controls.h"
 #include "core/dades/Numeros.h"
 #include "tests/eines/terminal/Cercar.h"
+#include "tests/eines/terminal/Etiquetes.h"
 #include "tests/eines/terminal/Ganxos.h"
 #include "tests/eines/terminal/Ma.h"
 #include "tests/eines/terminal/Servidor.h"
@@ -182,6 +183,7 @@ const std::map<QString, Rutina>& Rutines() {
       {QStringLiteral("login"), Login},
       {QStringLiteral("company"), Company},
       {QStringLiteral("answer"), Answer},
+      {QStringLiteral("answer_print"), [](const QStringList& mots) { Encuar_Copies(mots[1].toInt()); }},
       {QStringLiteral("menu"), Menu},
       {QStringLiteral("focus"), Focus},
       {QStringLiteral("type"), Type},
@@ -212,10 +214,12 @@ void Executar_Ordre(const QStringList& mots) {
   const auto rutina = Rutines().find(mots.value(0));
   if (rutina == Rutines().end()) throw Error_Guio(QStringLiteral("the terminal knows no %1").arg(mots.value(0)));
   static const QStringList sense_programa = {QStringLiteral("start"), QStringLiteral("today"),
-                                             QStringLiteral("company"), QStringLiteral("answer")};
+                                             QStringLiteral("company"), QStringLiteral("answer"),
+                                             QStringLiteral("answer_print")};
   if (!sense_programa.contains(mots[0])) {
     Finestra_Principal();
     Activa_Alguna_Finestra();
   }
+  if (mots[0] != QLatin1String("expect")) Oblidar_Etiquetes();
   rutina->second(mots);
 }

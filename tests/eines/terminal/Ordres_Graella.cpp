@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStyledItemDelegate>
 
 #include "core/controls/Graella.h"
@@ -51,19 +52,25 @@ void Clica_Fila(Graella& graella, int fila, Qt::KeyboardModifiers amb = Qt::NoMo
   Clica(*graella.viewport(), Punt_De_Cella(graella, index), amb);
 }
 
+// Opens the list of the cell and clicks the entry, as a person would.
+void Triar_A_La_Llista(QComboBox& combo, const QString& text) {
+  const int quina = combo.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (quina < 0) throw Error_Guio(QStringLiteral("the cell has no entry that shows it"));
+  combo.showPopup();
+  Calmar();
+  QAbstractItemView& llista = *combo.view();
+  const QModelIndex index = combo.model()->index(quina, combo.modelColumn(), combo.rootModelIndex());
+  llista.scrollTo(index);
+  const QPointer<QAbstractItemView> oberta(&llista);
+  Clica(*llista.viewport(), llista.visualRect(index).center());
+  Calmar();
+  if (oberta && oberta->isVisible()) throw Error_Guio(QStringLiteral("the list of the cell stays open"));
+}
+
 void Posar_A_L_Editor(QWidget& editor, const QString& text) {
-  if (auto* combo = qobject_cast<QComboBox*>(&editor)) {
-    const int quina = combo->findText(text);
-    if (quina < 0) throw Error_Guio(QStringLiteral("the cell has no entry that shows it"));
-    combo->setCurrentIndex(quina);
-    return;
-  }
-  if (text.isEmpty()) {
-    Selecciona_Tot();
-    Prem_Tecla(QStringLiteral("Del"));
-    return;
-  }
+  if (auto* combo = qobject_cast<QComboBox*>(&editor)) return Triar_A_La_Llista(*combo, text);
   Selecciona_Tot();
+  if (text.isEmpty()) return Prem_Tecla(QStringLiteral("Del"));
   Tecleja(text);
 }
 
@@ -71,11 +78,12 @@ void Editar_Cella(Graella& graella, const QModelIndex& index, const QString& tex
   graella.setCurrentIndex(index);
   static_cast<QTableView&>(graella).edit(index);
   Calmar();
-  QWidget* editor = graella.indexWidget(index);
+  QPointer<QWidget> editor = graella.indexWidget(index);
   if (editor == nullptr) editor = QApplication::focusWidget();
   if (editor == nullptr || !graella.viewport()->isAncestorOf(editor))
     throw Error_Guio(QStringLiteral("the cell cannot be edited"));
   Posar_A_L_Editor(*editor, text);
+  if (!editor || !editor->isVisible()) return;  // what was chosen has been taken
   auto* delegat = graella.itemDelegateForIndex(index);
   Q_EMIT delegat->commitData(editor);
   Q_EMIT delegat->closeEditor(editor);

@@ -1,0 +1,76 @@
+#include "documents/F_Preus_Linia.h"
+
+#include "core/controls/Camps.h"
+#include "core/controls/Controls.h"
+#include "core/formularis/Formulari.h"
+
+namespace {
+
+constexpr const char* dos_decimals = "#,##0.00";
+constexpr const char* tres_decimals = "#,##0.000";
+constexpr const char* cinc_decimals = "#,##0.00000";
+
+std::vector<Camp_De_Preu> Preus(const char* mascara_cost) {
+  using L = Linia_Entrada;
+  using R = Resultat_Linia;
+  return {
+      {"TXT_COST", mascara_cost, Mode_Calcul::Cost, &L::cost, &R::cost},
+      {"TXT_PREU_UNITARI", dos_decimals, Mode_Calcul::Preu_Unitari, &L::preu_unitari, &R::preu_unitari},
+      {"TXT_PVP", dos_decimals, Mode_Calcul::Pvp, &L::pvp, &R::pvp},
+      {"TXT_PORC_MARGE", cinc_decimals, Mode_Calcul::Porc_Marge, &L::porc_marge, &R::porc_marge},
+      {"TXT_DESCOMPTE", cinc_decimals, Mode_Calcul::Dte, &L::dte, &R::dte},
+  };
+}
+
+}  // namespace
+
+const std::vector<Camp_De_Preu> preus_de_venda = Preus(dos_decimals);
+const std::vector<Camp_De_Preu> preus_de_compra = Preus(tres_decimals);
+
+Preus_Linia::Preus_Linia(const Lloc& lloc, const std::vector<Camp_De_Preu>& descripcio,
+                         std::function<Linia_Entrada()> linia, std::function<Taxes_Linia()> taxes)
+    : descripcio_(descripcio), linia_(std::move(linia)), taxes_(std::move(taxes)) {
+  for (std::size_t i = 0; i < descripcio_.size(); ++i) {
+    const QString nom = QString::fromLatin1(descripcio_[i].control) + u'_' + QLatin1String(lloc.sufix);
+    auto* camp = lloc.marc->findChild<Camp_Numeric*>(nom);
+    if (camp == nullptr) qFatal("%s: no %s", qUtf8Printable(lloc.marc->objectName()), qUtf8Printable(nom));
+    camp->Mascara(descripcio_[i].mascara);
+    En_Entrar(camp, [this, camp] { recordat_ = camp->Numero(); });
+    En_Sortir(camp, [this, i] { Deixar(i); });
+    camps_.push_back(camp);
+  }
+}
+
+void Preus_Linia::Llegir(Linia_Entrada& linia) const {
+  for (std::size_t i = 0; i < camps_.size(); ++i) linia.*descripcio_[i].escrit = camps_[i]->Numero();
+}
+
+Camp_Numeric* Preus_Linia::Camp(double Linia_Entrada::*escrit) const {
+  for (std::size_t i = 0; i < camps_.size(); ++i) {
+    if (descripcio_[i].escrit == escrit) return camps_[i];
+  }
+  qFatal("no such price");
+}
+
+void Preus_Linia::Buidar() {
+  for (Camp_Numeric* camp : camps_) camp->Numero(0);
+}
+
+void Preus_Linia::Deixar(std::size_t quin) {
+  if (!camps_[quin]->Es_Numeric()) return Retenir_Focus(camps_[quin]);
+  if (camps_[quin]->Numero() == recordat_) return;
+  Formulari::Guardar_Event([this, quin] { Recalcular(quin); });
+}
+
+// The other prices follow the one that was typed, which stays as it is.
+void Preus_Linia::Recalcular(std::size_t quin) {
+  const Taxes_Linia taxes = taxes_();
+  const Linia_Entrada linia = linia_();
+  const Resultat_Linia resultat =
+      Calcular_Linia(linia.cost, linia.unitats, linia.porc_marge, linia.dte_article, taxes.porc_iva, taxes.porc_re,
+                     linia.preu_unitari, linia.pvp, linia.dte, descripcio_[quin].mode);
+  for (std::size_t i = 0; i < camps_.size(); ++i) {
+    if (i != quin) camps_[i]->Numero(resultat.*descripcio_[i].resultat);
+  }
+  recordat_ = camps_[quin]->Numero();
+}

@@ -1,0 +1,198 @@
+#include "documents/M_Linies_Document.h"
+
+#include <map>
+
+#include "core/M_Funcions_Comuns.h"
+#include "documents/M_Linies.h"
+#include "documents/M_Peu.h"
+#include "masters/M_Articles.h"
+#include "masters/M_IVAs.h"
+
+namespace {
+
+bool Te_Columna(const Tipus_Document& tipus, const std::string& paper) {
+  return (" " + std::string(tipus.columnes_linies) + " ").find(" " + paper + " ") != std::string::npos;
+}
+
+Apunt_Estoc Preparar_Estoc(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const std::string& article,
+                           double signe, double unitats) {
+  const Passos_Document& passos = Passos_De(tipus);
+  return passos.estoc == nullptr ? Apunt_Estoc() : passos.estoc(cap, article, signe, unitats);
+}
+
+// ---- Writing
+
+// The number of the new line; what else the line needs to know is asked for at once.
+std::int16_t Comencar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
+  if (cap.iva) Demanar_IVA(linia.iva_article);
+  Demanar_Article(linia.article);
+  if (const auto demanar = Passos_De(tipus).demanar) demanar();
+  return Seguent_Linia(tipus, cap.numero, cap.empresa);
+}
+
+// A line is saved from its price; where a kind is valued at cost, its amounts are not.
+Resultat_Linia Valorar(const Tipus_Document& tipus, const Linia_Entrada& linia, const Taxes_Linia& taxes) {
+  Resultat_Linia resultat =
+      Calcular_Linia(linia.cost, linia.unitats, linia.porc_marge, linia.dte_article, taxes.porc_iva, taxes.porc_re,
+                     linia.preu_unitari, linia.pvp, linia.dte, Mode_Calcul::Preu_Unitari);
+  if (tipus.valorat_al_cost) Valorar_Al_Cost(resultat);
+  return resultat;
+}
+
+void Escriure_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia,
+                    std::int16_t numero, Recordset& linies) {
+  const auto posar = [&](const char* paper, const Valor& valor) {
+    if (Te_Columna(tipus, paper)) linies.Set(tipus.lin.Columna(paper), valor);
+  };
+  linies.AddNew();
+  posar("NUMALB", cap.numero);
+  posar("EMPRESA", cap.empresa);
+  posar("LIN", std::int64_t{numero});
+  posar("ARTICLE", linia.article);
+  posar("DESCRIPCIO", linia.descripcio);
+  posar("COST", linia.cost);
+  const Taxes_Linia taxes = Taxes_De_Linia(linia.iva_article, cap.iva, cap.re);
+  posar("PORC_IVA", taxes.porc_iva);
+  posar("PORC_RE", taxes.porc_re);
+  posar("UNITATS", linia.unitats);
+  const Resultat_Linia resultat = Valorar(tipus, linia, taxes);
+  posar("PORC_MARGE", resultat.porc_marge);
+  posar("PREU_UNITARI", resultat.preu_unitari);
+  posar("PVP", resultat.pvp);
+  posar("IMPORT_NET", resultat.import_net);
+  posar("IMPORT_BRUT", resultat.import_brut);
+  posar("MARGE", resultat.marge);
+  posar("DTE", resultat.dte);
+  if (const auto columnes = Passos_De(tipus).columnes) columnes(cap, linia, linies);
+  if (!tipus.peu.nom.empty()) Demanar_Grups(tipus, cap.numero, cap.empresa);
+  linies.Update();
+}
+
+// What is wrong with the stock was shown already, and the transaction undone.
+void Apuntar(const Tipus_Document& tipus, const Apunt_Estoc& estoc) {
+  if (!estoc.fer) return;
+  try {
+    estoc.fer();
+  } catch (const Error_Brollador& error) {
+    if (error.Motiu() == Falla::Interbloqueig) throw;
+    throw Error_Brollador(errors::refusat, std::string(tipus.formulari), tipus.error_estoc, error.Motiu());
+  }
+}
+
+// ---- New rates
+
+// The rates that each article of the document takes today; an article is looked up once.
+class Taxes_Per_Article {
+ public:
+  explicit Taxes_Per_Article(const Capcalera_Oberta& cap) : cap_(cap) {}
+  Taxes_Linia De(const std::string& codi) {
+    if (!cap_.iva) return {};
+    const auto [lloc, nou] = taxes_.try_emplace(codi);
+    if (nou) lloc->second = Taxes_De_Linia(Dades_Article(codi)[article::iva], cap_.iva, cap_.re);
+    return lloc->second;
+  }
+
+ private:
+  const Capcalera_Oberta& cap_;
+  std::map<std::string, Taxes_Linia> taxes_;
+};
+
+// Only the rates and the gross amount change: price with tax, net and margin stay as they were typed.
+void Recalcular_Linia(const Taula_Document& lin, Recordset& rs, const Taxes_Linia& taxes) {
+  const auto numero = [&](const char* paper) { return Nul_A_Defecte(rs[lin.Columna(paper)]).Doble(); };
+  const Resultat_Linia resultat =
+      Calcular_Linia(numero("COST"), numero("UNITATS"), numero("PORC_MARGE"), 0, taxes.porc_iva, taxes.porc_re,
+                     numero("PREU_UNITARI"), numero("PVP"), numero("DTE"), Mode_Calcul::Preu_Unitari);
+  rs.Set(lin.Columna("PORC_IVA"), taxes.porc_iva);
+  rs.Set(lin.Columna("PORC_RE"), taxes.porc_re);
+  rs.Set(lin.Columna("IMPORT_BRUT"), resultat.import_brut);
+  rs.Update();
+}
+
+}  // namespace
+
+void Afegir_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia,
+                  Recordset& linies, Document_Obert& obert) {
+  const Passos_Document& passos = Passos_De(tipus);
+  if (passos.abans_d_afegir != nullptr) passos.abans_d_afegir(cap, linia);
+  const std::int16_t numero = Comencar_Linia(tipus, cap, linia);
+  const Apunt_Estoc estoc = Preparar_Estoc(tipus, cap, linia.article, +1, linia.unitats);
+  Escriure_Linia(tipus, cap, linia, numero, linies);
+  if (estoc.demanar) estoc.demanar();
+  if (passos.demanar_bloquejat != nullptr) passos.demanar_bloquejat(cap.numero, cap.empresa);
+  Calcular_Totals(tipus, cap.numero, cap.empresa, obert);
+  Apuntar(tipus, estoc);
+  if (passos.despres_d_afegir != nullptr) passos.despres_d_afegir(cap, linia, obert);
+}
+
+// The line goes first: nothing is posted for one that another terminal deletes meanwhile. Then what it is tied to, and
+// the stock last, as in adding: rows of others are always taken in that order.
+bool Esborrar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_A_Esborrar& linia) {
+  static constexpr Pregunta paraules = {"Segur d'esborrar la línia ", "¿Seguro de eliminar la línea ",
+                                        "Are you sure to delete line "};
+  const Passos_Document& passos = Passos_De(tipus);
+  if (passos.es_pot_esborrar != nullptr && !passos.es_pot_esborrar(cap)) return false;
+  if (!Confirmar(paraules, std::to_string(linia.numero))) return false;
+  const std::string condicio = Condicio_Document(tipus, tipus.lin, cap.numero, cap.empresa) + " AND " +
+                               tipus.lin.Columna("LIN") + " = " + std::to_string(linia.numero);
+  const Recordset fila("SELECT * FROM " + std::string(tipus.lin.nom) + condicio, sessio.Connexio_Comuna);
+  if (fila.RecordCount() == 0) Exigir_Document(tipus, cap.numero, cap.empresa);
+  if (fila.RecordCount() == 0 || fila[tipus.lin.Columna("ARTICLE")].Text() != linia.article)
+    Llancar_Error(errors::concurrencia, std::string(tipus.formulari));
+  const Apunt_Estoc estoc = Preparar_Estoc(tipus, cap, linia.article, -1, linia.unitats);
+  const std::string encara_lliure =
+      passos.columna_lligada == nullptr ? std::string() : " AND " + tipus.lin.Columna(passos.columna_lligada) + " = 0";
+  const int tocades =
+      sessio.Connexio_Comuna.Execute("DELETE * FROM " + std::string(tipus.lin.nom) + condicio + encara_lliure);
+  if (tocades == 0) {
+    if (passos.columna_lligada != nullptr) return true;
+    Llancar_Error(errors::concurrencia, std::string(tipus.formulari));
+  }
+  if (passos.despres_d_esborrar != nullptr) passos.despres_d_esborrar(cap, fila);
+  if (estoc.demanar) estoc.demanar();
+  if (estoc.fer) estoc.fer();
+  return true;
+}
+
+bool Recalcular_Linies(const Tipus_Document& tipus, const Capcalera_Oberta& cap, Document_Obert& obert) {
+  const bool te_peu = !tipus.peu.nom.empty();
+  const std::string peu = te_peu ? SQL_Peu(tipus, cap.numero, cap.empresa) : std::string();
+  Transaccio transaccio(sessio.Connexio_Comuna);
+  if (te_peu) sessio.Connexio_Comuna.Demanar(peu);
+  Recordset rs(
+      "SELECT * FROM " + std::string(tipus.lin.nom) + Condicio_Document(tipus, tipus.lin, cap.numero, cap.empresa),
+      sessio.Connexio_Comuna, Bloqueig::Optimista);
+  const bool buit = rs.RecordCount() == 0 && (!te_peu || Recordset(peu, sessio.Connexio_Comuna).RecordCount() == 0);
+  if (buit) {
+    obert.Posar_Import(0);
+    transaccio.Confirmar();
+    return false;
+  }
+  Taxes_Per_Article taxes(cap);
+  for (; !rs.Eof(); rs.MoveNext()) Recalcular_Linia(tipus.lin, rs, taxes.De(rs[tipus.lin.Columna("ARTICLE")].Text()));
+  if (te_peu) Buidar_Peu(tipus, cap.numero, cap.empresa);
+  Calcular_Totals(tipus, cap.numero, cap.empresa, obert);
+  transaccio.Confirmar();
+  return true;
+}
+
+bool Moure_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, std::int16_t linia,
+                 bool avall) {
+  const Passos_Document& passos = Passos_De(tipus);
+  if (passos.es_pot_moure != nullptr && !passos.es_pot_moure(numero, empresa, linia)) return false;
+  return Intercanviar_Linia(tipus, numero, empresa, linia, avall);
+}
+
+void Calcular_Totals(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
+                     Document_Obert& obert) {
+  if (!tipus.peu.nom.empty()) return Calcular_Peu(tipus, numero, empresa, obert);
+  obert.Posar_Import(Total_Document(tipus, numero, empresa));
+}
+
+double Total_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  if (!tipus.peu.nom.empty()) return Total_Peu(tipus, numero, empresa);
+  const Recordset rs("SELECT SUM(" + tipus.lin.Columna("IMPORT_BRUT") + ") AS IMPORT_BRUT FROM " +
+                         std::string(tipus.lin.nom) + Condicio_Document(tipus, tipus.lin, numero, empresa),
+                     sessio.Connexio_Comuna);
+  return Arrodonir(Nul_A_Defecte(rs["IMPORT_BRUT"]).Doble(), 2);
+}

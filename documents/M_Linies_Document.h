@@ -1,0 +1,35 @@
+// The lines of a document, for every kind: writing one, deleting one, moving one, new rates on all of them, and the
+// total that follows. What a kind does of its own are the steps of its description (Passos_Document). Reads and writes
+// the lines, the foot and through the steps whatever they say.
+#pragma once
+
+#include "documents/Documents.h"
+
+// Writes a line on the form's line recordset: row, foot, stock. Call it inside a transaction that has not written yet:
+// a warning may be shown before it writes. Raises 1010 when the kind refuses it or the stock could not be posted
+// (already shown), 6, 13 or the engine's.
+void Afegir_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia,
+                  Recordset& linies, Document_Obert& obert);
+
+struct Linia_A_Esborrar {
+  std::int16_t numero = 0;
+  std::string article;  // as the user sees it
+  double unitats = 0;
+};
+// Asks, deletes the line and undoes what it did. False when the user, or the kind, said no. A line that the kind keeps
+// stays in silence. Raises Document_Inexistent when another terminal deleted the document, 80040E38 when the line is
+// gone or is another one; then nothing is written. Call it inside a transaction that has not written yet.
+bool Esborrar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_A_Esborrar& linia);
+
+// New rates on all lines after a change of customer; the foot is rebuilt. In a transaction of its own unless one is
+// open. False when there was neither a line nor a foot.
+bool Recalcular_Linies(const Tipus_Document& tipus, const Capcalera_Oberta& cap, Document_Obert& obert);
+// Exchanges a line with its neighbour: `avall` towards the end. False when there is none or the kind forbids it.
+bool Moure_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, std::int16_t linia,
+                 bool avall);
+
+// The total that the open form shows: of the foot, which is rebuilt, or of the lines where a kind has no foot.
+void Calcular_Totals(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
+                     Document_Obert& obert);
+// Euros, as the database has it.
+double Total_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);

@@ -1,0 +1,82 @@
+#include "output/Imprimir.h"
+
+#include "core/M_Funcions_Comuns.h"
+#include "core/controls/Imatge_De_Fitxer.h"
+#include "output/DR_Valorat.h"
+#include "output/M_Impressio.h"
+#include "output/informe/Sortida.h"
+
+namespace {
+
+constexpr QSize maxim_logo{1700, 600};  // dots: 600 an inch in its place on the page
+
+QString Qt_Text(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+void Posar(Informe& informe, const Ompliment_Informe& ompliment, bool logo) {
+  if (logo) {
+    informe.Picture(u"IMG_LOGO"_qs, Imatge_De_Fitxer(Qt_Text(ompliment.imatge), maxim_logo));
+    Posar_Bloc_Empresa(informe, ompliment.posicio_top);
+  }
+  for (const auto& [control, text] : ompliment.textos) informe.Caption(Qt_Text(control), Qt_Text(text));
+  for (const auto& control : ompliment.amagats) informe.Visible(Qt_Text(control), false);
+  for (const auto& [control, mascara] : ompliment.formats) informe.Data_Format(Qt_Text(control), mascara);
+}
+
+Pagines Fer_Pagines(const Descripcio_Impressio& descripcio, const Valor& numero, const std::string& empresa,
+                    Recordset& files) {
+  Informe informe(DR_Valorat(descripcio));
+  informe.Traduir();
+  const bool valorat = sessio.Crida_Document != std::string(descripcio.Tipus().formulari) + ";NO_VALORAT";
+  Posar(informe, Omplir_Informe(descripcio, numero, empresa, valorat), descripcio.logo);
+  return {.titol = informe.Caption(u"L_ALBARA"_qs) + u' ' + Qt_Text(numero.Text()),
+          .autor = informe.Caption(u"L_RAO_SOCIAL_EMP"_qs),
+          .pagines = informe.Maquetar(files)};
+}
+
+void Treure(const Pagines& pagines, const QString& fitxer_pdf, int mode) {
+  if (mode == impressio::pdf) {
+    Crear_Directori(sessio.Dir_Temp);
+    return Escriure_PDF(pagines, fitxer_pdf);
+  }
+  Imprimir_Pagines(pagines);
+}
+
+// Empties the work table whatever becomes of the print.
+class Taula_De_Treball {
+ public:
+  Taula_De_Treball(const Descripcio_Impressio& informe, const Valor& numero, const std::string& empresa)
+      : informe_(informe) {
+    Omplir_Taula_Impressio(informe, numero, empresa);
+  }
+  ~Taula_De_Treball() {
+    try {
+      Buidar_Taula_Impressio(informe_);
+    } catch (const Error_Brollador& error) {
+      qWarning("%s", error.what());  // it is emptied again before the next print
+    }
+  }
+  Taula_De_Treball(const Taula_De_Treball&) = delete;
+  Taula_De_Treball& operator=(const Taula_De_Treball&) = delete;
+
+ private:
+  const Descripcio_Impressio& informe_;
+};
+
+}  // namespace
+
+void Imprimir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) {
+  const Descripcio_Impressio& informe = Informe_De(tipus);
+  const Taula_De_Treball taula(informe, numero, empresa);
+  Recordset files(SQL_Impressio(informe), sessio.Connexio_Local);
+  if (files.RecordCount() == 0) return;
+  Treure(Fer_Pagines(informe, numero, empresa, files), Fitxer_PDF(tipus, numero), mode);
+}
+
+QString Fitxer_PDF(const Tipus_Document& tipus, const Valor& numero) {
+  const Descripcio_Impressio& informe = Informe_De(tipus);
+  const QString nom = QString::fromUtf8(informe.prefix_pdf.data(), static_cast<qsizetype>(informe.prefix_pdf.size())) +
+                      Qt_Text(numero.Text());
+  return Qt_Text(sessio.Dir_Temp) + Nom_De_Fitxer(nom) + QStringLiteral(".pdf");
+}

@@ -1,0 +1,177 @@
+// Rows that are edited in their grid: from cell to cell, and the steps that a table adds to them.
+#include <QApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "core/controls/Graella.h"
+#include "tests/pantalles/Base_Pantalles.h"
+
+namespace {
+
+const std::vector<Columna_Graella> columnes = {{"CODI_MAR", 1500, "Marca"}, {"DESCRIPCIO_MAR", 3000, "Descripció"}};
+
+}  // namespace
+
+class Graella_Editable : public Base_Pantalles {
+ protected:
+  Graella_Editable() {
+    Executar("INSERT INTO MARQUES (CODI_MAR, DESCRIPCIO_MAR) VALUES ('01', 'Primera')");
+    Executar("INSERT INTO MARQUES (CODI_MAR, DESCRIPCIO_MAR) VALUES ('02', 'Segona')");
+    auto* columna = new QVBoxLayout(&finestra);
+    columna->addWidget(&graella);
+    graella.Columnes(columnes);
+    rs.Open("SELECT * FROM MARQUES ORDER BY CODI_MAR", sessio.Connexio_Comuna, Bloqueig::Pessimista);
+    graella.Lligar(&rs);
+    graella.Permetre_Canvis(true);
+    finestra.resize(500, 300);
+    finestra.show();
+    QApplication::setActiveWindow(&finestra);
+    graella.setFocus();
+    QCoreApplication::processEvents();
+  }
+  ~Graella_Editable() override { graella.setParent(nullptr); }
+  void Anar(int fila, int columna) {
+    graella.setCurrentIndex(graella.model()->index(fila, columna));
+    graella.setFocus();
+  }
+  static void Escriu(const char* text) {
+    for (const char lletra : std::string(text)) QTest::keyClick(QApplication::focusWidget(), lletra);
+  }
+  static void Prem(Qt::Key tecla, Qt::KeyboardModifiers amb = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), tecla, amb);
+    QTest::qWait(20);  // the editor goes, then the next cell comes
+  }
+  static bool Hi_Ha_Editor() { return qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr; }
+  static std::string Marques() {
+    std::string totes;
+    for (Recordset r("SELECT * FROM MARQUES ORDER BY CODI_MAR", sessio.Connexio_Comuna); !r.Eof(); r.MoveNext())
+      totes += r["CODI_MAR"].Text() + "=" + r["DESCRIPCIO_MAR"].Text() + ";";
+    return totes;
+  }
+
+  Recordset rs;
+  QWidget finestra;
+  Graella graella;
+};
+
+TEST_F(Graella_Editable, Tab_at_the_end_of_a_new_row_goes_on_with_the_next_new_row) {
+  Anar(2, 0);
+  Escriu("09");
+  Prem(Qt::Key_Tab);
+  Escriu("Nova");
+  Prem(Qt::Key_Tab);
+  EXPECT_EQ(Marques(), "01=Primera;02=Segona;09=Nova;");
+  EXPECT_EQ(graella.currentIndex().row(), 3);
+  EXPECT_TRUE(Hi_Ha_Editor());
+  Escriu("10");
+  Prem(Qt::Key_Tab);
+  Escriu("Una altra");
+  Prem(Qt::Key_Tab);
+  EXPECT_EQ(Marques(), "01=Primera;02=Segona;09=Nova;10=Una altra;");
+}
+
+TEST_F(Graella_Editable, No_key_goes_by_itself_into_the_code_of_a_row_that_exists) {
+  Anar(0, 1);
+  Prem(Qt::Key_F2);
+  Prem(Qt::Key_Tab);
+  EXPECT_EQ(graella.currentIndex(), graella.model()->index(1, 0));
+  EXPECT_FALSE(Hi_Ha_Editor());
+  Escriu("9");
+  EXPECT_FALSE(Hi_Ha_Editor());
+  Anar(1, 1);
+  Prem(Qt::Key_F2);
+  Prem(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_FALSE(Hi_Ha_Editor());
+  EXPECT_EQ(Marques(), "01=Primera;02=Segona;");
+  // By hand it is changed as before, and letters change what is no code.
+  Prem(Qt::Key_F2);
+  EXPECT_TRUE(Hi_Ha_Editor());
+  Prem(Qt::Key_Escape);
+  Anar(1, 1);
+  Escriu("Z");
+  EXPECT_TRUE(Hi_Ha_Editor());
+}
+
+TEST_F(Graella_Editable, Where_rows_are_picked_letters_search) {
+  graella.De_Triar(true);
+  Anar(0, 1);
+  Escriu("02");
+  EXPECT_FALSE(Hi_Ha_Editor());
+  EXPECT_EQ(graella.Fila_Actual(), 1);
+  Prem(Qt::Key_F2);
+  EXPECT_TRUE(Hi_Ha_Editor());
+  const QSignalSpy lliurada(&graella, &Graella::Doble_Clic);
+  Prem(Qt::Key_Return);
+  EXPECT_EQ(lliurada.count(), 0);
+  Prem(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(lliurada.count(), 1);
+}
+
+TEST_F(Graella_Editable, What_is_being_typed_is_written_before_the_row_is_handed_over) {
+  graella.De_Triar(true);
+  Anar(2, 0);
+  Escriu("05");
+  Prem(Qt::Key_Tab);
+  Escriu("Cinc");
+  const QSignalSpy lliurada(&graella, &Graella::Doble_Clic);
+  Prem(Qt::Key_Return, Qt::ControlModifier);
+  ASSERT_EQ(lliurada.count(), 1);
+  EXPECT_EQ(Marques(), "01=Primera;02=Segona;05=Cinc;");
+  EXPECT_EQ(graella.Valor_Actual("CODI_MAR"), Valor("05"));
+}
+
+TEST_F(Graella_Editable, A_second_click_edits_where_rows_are_picked) {
+  graella.De_Triar(true);
+  const QPoint on = graella.visualRect(graella.model()->index(1, 1)).center();
+  QTest::mouseClick(graella.viewport(), Qt::LeftButton, {}, on);
+  EXPECT_FALSE(Hi_Ha_Editor());
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  QTest::mouseClick(graella.viewport(), Qt::LeftButton, {}, on);
+  EXPECT_EQ(rs.EditMode(), Edicio::Cap) << "half of a double click holds nothing";
+  QTest::qWait(QApplication::doubleClickInterval() + 100);
+  EXPECT_TRUE(Hi_Ha_Editor());
+}
+
+TEST_F(Graella_Editable, A_new_row_is_filled_by_its_first_value) {
+  std::vector<std::string> passos;
+  graella.Passos({.nova =
+                      [&](const char* camp) {
+                        passos.emplace_back(std::string("nova ") + camp);
+                        if (rs["DESCRIPCIO_MAR"].Es_Nul()) rs.Set("DESCRIPCIO_MAR", Valor("Per omissió"));
+                      },
+                  .per_desar =
+                      [&](const char* camp) {
+                        passos.emplace_back(std::string("per desar ") + camp);
+                        return rs["DESCRIPCIO_MAR"].Text() != "No";
+                      },
+                  .desada = [&] { passos.emplace_back("desada"); }});
+  Anar(2, 0);
+  Escriu("09");
+  Prem(Qt::Key_Return);
+  EXPECT_EQ(graella.Text_Cella(1, QStringLiteral("DESCRIPCIO_MAR")), QStringLiteral("Segona"));
+  Anar(0, 1);
+  EXPECT_EQ(Marques(), "01=Primera;02=Segona;09=Per omissió;");
+  EXPECT_EQ(passos, (std::vector<std::string>{"nova CODI_MAR", "per desar DESCRIPCIO_MAR", "desada"}));
+  // The step that says no gives the row up.
+  passos.clear();
+  Anar(0, 1);
+  Prem(Qt::Key_F2);
+  Escriu("No");
+  Prem(Qt::Key_Return);
+  Anar(1, 1);
+  EXPECT_EQ(Marques(), "01=Primera;02=Segona;09=Per omissió;");
+  EXPECT_EQ(passos, (std::vector<std::string>{"per desar DESCRIPCIO_MAR"}));
+  EXPECT_FALSE(graella.En_Edicio());
+}
+
+TEST_F(Graella_Editable, A_column_that_is_never_typed_takes_no_key) {
+  graella.Columnes(
+      {{.camp = "CODI_MAR", .amplada = 1500, .titol = "Marca", .fixa = true}, {"DESCRIPCIO_MAR", 3000, "Descripció"}});
+  graella.Lligar(&rs);
+  Anar(0, 0);
+  Prem(Qt::Key_F2);
+  EXPECT_FALSE(Hi_Ha_Editor());
+  EXPECT_EQ(rs.EditMode(), Edicio::Cap);
+}

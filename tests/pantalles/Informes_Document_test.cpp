@@ -1,0 +1,269 @@
+// The five valued documents on paper, read back from their PDF files. Their rows are written here, so that a kind is
+// proved whether or not it has an editor.
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include "core/dades/Numeros.h"
+#include "output/DR_Valorat.h"
+#include "output/Imprimir.h"
+#include "output/M_Impressio.h"
+#include "sales/M_Tipus_Venda.h"
+#include "stock/M_Tipus_Estoc.h"
+#include "tests/pantalles/Base_Pantalles.h"
+
+namespace {
+
+constexpr const char* empresa = "B00000000";
+
+class Informes_Document : public Base_Pantalles {
+ protected:
+  Informes_Document() {
+    sessio.Dir_Temp = installacio.Dir_Dades() + "/Temp/";
+    Executar(
+        "UPDATE EMPRESES SET RAO_SOCIAL_EMP = 'Ferreteria Montseny, S.L.', ADREÇA_EMP = 'Carrer Major, 1', "
+        "TELEFON_EMP = '93 845 12 34', CP_EMP = '08470', LOCALITAT_EMP = 'Sant Celoni', COMENTARI_EMP = 'Des de 1975', "
+        "PRESS_PEU1_EMP = 'Vàlid trenta dies', PRESS_PEU2_EMP = 'Ports a part', FACT_PEU1_EMP = 'Registre, full 7'");
+    Executar(
+        "INSERT INTO VENCIMENTS (CODI_VEN, DESCRIPCIO_VEN, DIES_VEN, TERMINIS_VEN) VALUES('T2', 'Dos terminis', 30, "
+        "2)");
+    Executar(
+        "INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI, NOM_COMERCIAL_CLI, ADREÇA_CLI, CP_CLI, LOCALITAT_CLI, "
+        "CODI_CLIENT_CLI, VENCIMENT_CLI, COMPTE_CLI) VALUES('B61234567', 'Construccions Puig, S.L.', 'Obres Puig', "
+        "'Passeig del Riu, 45', '08500', 'Vic', 'C-77', 'T2', 'ES12 3456')");
+    Executar(
+        "INSERT INTO PROVEIDORS (NIF_PRO, RAO_SOCIAL_PRO, NOM_COMERCIAL_PRO, ADREÇA_PRO, CP_PRO, LOCALITAT_PRO) VALUES("
+        "'B61234567', 'Metalls del Segre, S.A.', 'Segre', 'Polígon 4', '25001', 'Lleida')");
+  }
+
+  static std::string Numero_De(const Tipus_Document& tipus) { return tipus.numero_es_text ? "'12'" : "12"; }
+  void Posar_Document(const Tipus_Document& tipus, const std::string& observacions = "Portar al matí") {
+    const bool compra = &tipus == &tipus_albcompra;
+    Executar("INSERT INTO " + std::string(tipus.cap.nom) + " (" + tipus.cap.Columna("NUMALB") + ", " +
+             tipus.cap.Columna("EMPRESA") + ", " + tipus.cap.Columna("DATA") + ", " +
+             tipus.cap.Columna(compra ? "PROVEIDOR" : "CLIENT") + ", " + tipus.cap.Columna("OBSR") + ") VALUES(" +
+             Numero_De(tipus) + ", 'B00000000', #3/5/2026#, 'B61234567', " + Text_SQL(observacions) + ")");
+  }
+  void Posar_Linia(const Tipus_Document& tipus, const std::string& descripcio, double unitats, double preu,
+                   double dte = 0) {
+    const auto columna = [&](const char* paper) { return tipus.lin.Columna(paper); };
+    Recordset rs("SELECT * FROM " + std::string(tipus.lin.nom), sessio.Connexio_Comuna, Bloqueig::Optimista);
+    rs.AddNew();
+    rs.Set(columna("NUMALB"), tipus.numero_es_text ? Valor("12") : Valor(12));
+    rs.Set(columna("EMPRESA"), empresa);
+    rs.Set(columna("LIN"), ++linia_);
+    rs.Set(columna("DESCRIPCIO"), descripcio);
+    rs.Set(columna("UNITATS"), unitats);
+    rs.Set(columna("COST"), preu);
+    rs.Set(columna("PREU_UNITARI"), &tipus == &tipus_albcompra ? 0 : preu);
+    rs.Set(columna("DTE"), dte);
+    rs.Set(columna("IMPORT_NET"), unitats * preu * (1 - dte / 100));
+    rs.Update();
+  }
+  void Posar_Peu(const Tipus_Document& tipus, double base) {
+    const auto columna = [&](const char* paper) { return tipus.peu.Columna(paper); };
+    Executar("INSERT INTO " + std::string(tipus.peu.nom) + " (" + columna("NUMALB") + ", " + columna("EMPRESA") + ", " +
+             columna("TIPUS_IVA") + ", " + columna("PORC_IVA") + ", " + columna("BASE") + ", " + columna("IVA") + ", " +
+             columna("IMPORT") + ") VALUES(" + Numero_De(tipus) + ", 'B00000000', 'GN', 21, " + Numero_SQL(base) +
+             ", " + Numero_SQL(base * 0.21) + ", " + Numero_SQL(base * 1.21) + ")");
+  }
+  static QString Imprimir_I_Llegir(const Tipus_Document& tipus) {
+    sessio.Crida_Document = std::string(tipus.formulari) + ";VALORAT";
+    Imprimir_Document(tipus, tipus.numero_es_text ? Valor("12") : Valor(12), empresa, impressio::pdf);
+    const QString fitxer = Fitxer_PDF(tipus, 12);
+    // Pages to be looked at stay where this says.
+    if (const QString desti = qEnvironmentVariable("BROLLADOR_PAGINES"); !desti.isEmpty()) {
+      const auto* prova = testing::UnitTest::GetInstance()->current_test_info();
+      const QString copia = desti + u'/' + QString::fromUtf8(prova->name()) + u'-' + fitxer.section(u'/', -1);
+      QFile::remove(copia);
+      QFile::copy(fitxer, copia);
+    }
+    QProcess proces;
+    proces.start(u"pdftotext"_qs, {u"-layout"_qs, fitxer, u"-"_qs});
+    EXPECT_TRUE(proces.waitForFinished());
+    return QString::fromUtf8(proces.readAllStandardOutput()).replace(QRegularExpression(u"[ \u00A0]+"_qs), u" "_qs);
+  }
+  QString Document_Complet(const Tipus_Document& tipus, int linies = 1) {
+    Posar_Document(tipus);
+    for (int i = 0; i < linies; ++i) {
+      Posar_Linia(tipus,
+                  i % 7 == 3
+                      ? "Escala plegable d'alumini de sis graons amb plataforma, goma antilliscant i ganxo de seguretat"
+                      : "Tub de coure",
+                  i % 7 == 5 ? 12.5 : 2, 1234.5);
+    }
+    Posar_Peu(tipus, 2469);
+    return Imprimir_I_Llegir(tipus);
+  }
+  static void Conte(const QString& text, const std::vector<const char*>& parts) {
+    for (const char* part : parts) {
+      EXPECT_TRUE(text.contains(QString::fromUtf8(part))) << part << "\n" << text.toStdString();
+    }
+  }
+  static void No_Conte(const QString& text, const std::vector<const char*>& parts) {
+    for (const char* part : parts) EXPECT_FALSE(text.contains(QString::fromUtf8(part))) << part;
+  }
+
+ private:
+  int linia_ = 0;
+};
+
+}  // namespace
+
+TEST_F(Informes_Document, EachKindHasItsFrame) {
+  for (const auto& informe : Informes_De_Documents()) {
+    const QString text = Document_Complet(informe.Tipus());
+    SCOPED_TRACE(informe.informe);
+    Conte(text, {"Ferreteria Montseny, S.L.", "NIF: B00000000", "08470 Sant Celoni", "Data 05/03/2026", "NIF B61234567",
+                 "Observacions Portar al matí", "Tub de coure 2,00 1.234,50 2.469,00", "Net 2.469,00",
+                 "2.469,00 21,00 518,49 0,00 0,00 2.987,49", "Total € 2.987,49", "1/1"});
+    EXPECT_TRUE(text.contains(QString::fromUtf8(informe.titol) + u" 12"_qs)) << text.toStdString();
+    EXPECT_EQ(Recordset(SQL_Impressio(informe), sessio.Connexio_Local).RecordCount(), 0);
+  }
+}
+
+TEST_F(Informes_Document, AProposalHasCommentFooterLinesAndPlacesToSign) {
+  const QString text = Document_Complet(tipus_pressupost);
+  Conte(text, {"Des de 1975", "Carrer Major, 1 - Tel. 93 845 12 34", "Vàlid trenta dies", "Ports a part",
+               "Firma del client", "Firma de l'instal·lador"});
+  No_Conte(text, {"Venciments", "Codi client", "Registre"});
+}
+
+TEST_F(Informes_Document, AnOrderAndANoteHaveNeither) {
+  for (const auto* tipus : {&tipus_comanda, &tipus_albara}) {
+    const QString text = Document_Complet(*tipus);
+    Conte(text, {"Carrer Major, 1 - Tel. 93 845 12 34"});
+    No_Conte(text, {"Des de 1975", "Firma", "Venciments", "Codi client", "Vàlid", "Registre", "Nota"});
+  }
+}
+
+TEST_F(Informes_Document, AnInvoiceHasCommentFooterLineAndDueDates) {
+  const QString text = Document_Complet(tipus_factura);
+  Conte(text, {"Des de 1975", "Carrer Major, 1 - 93 845 12 34", "Nota Registre, full 7",
+               "Venciments Dos terminis (ES12 3456)", "05/04/2026"});
+  No_Conte(text, {"Codi client", "C-77", "Tel.", "Firma", "Vàlid"});
+}
+
+TEST_F(Informes_Document, TheCodeOfTheCustomerIsShownByItsParameterAlone) {
+  sessio.Parametres["P_Codi_Client_Visible"] = "True";
+  Conte(Document_Complet(tipus_factura), {"Codi client C-77"});
+  sessio.Parametres["P_Codi_Client_Visible"] = "true";
+  No_Conte(Imprimir_I_Llegir(tipus_factura), {"Codi client", "C-77"});
+}
+
+TEST_F(Informes_Document, WithoutTermsThereAreNoDueDates) {
+  Executar("UPDATE CLIENTS SET VENCIMENT_CLI = ''");
+  No_Conte(Document_Complet(tipus_factura), {"Venciments", "ES12"});
+}
+
+TEST_F(Informes_Document, HeadingLinesOfAnInvoicePrintWithEmptyFigures) {
+  Posar_Document(tipus_factura);
+  Posar_Linia(tipus_factura, "Albarà 7 del 01/03/2026", 0, 0);
+  Posar_Linia(tipus_factura, "Cargol", 1, 10);
+  EXPECT_TRUE(Imprimir_I_Llegir(tipus_factura).contains(QRegularExpression(u"Albarà 7 del 01/03/2026 *\n"_qs)));
+}
+
+TEST_F(Informes_Document, APurchaseNoteShowsCostsTheSupplierAndNoDiscounts) {
+  Posar_Document(tipus_albcompra);
+  Posar_Linia(tipus_albcompra, "Cargol", 3, 10, 50);
+  Posar_Peu(tipus_albcompra, 15);
+  const QString text = Imprimir_I_Llegir(tipus_albcompra);
+  Conte(text, {"Metalls del Segre, S.A.", "25001 Lleida", "Descripció Unitats Cost Import", "Cargol 3,00 10,00 15,00"});
+  No_Conte(text, {"Dte", "Construccions"});
+}
+
+TEST_F(Informes_Document, AFifthFootRowFailsInEveryKind) {
+  for (const auto& informe : Informes_De_Documents()) {
+    Document_Complet(informe.Tipus());
+    const auto columna = [&](const char* paper) { return informe.Tipus().peu.Columna(paper); };
+    for (const char* porc : {"0", "4", "5", "10"}) {
+      Executar("INSERT INTO " + std::string(informe.Tipus().peu.nom) + " (" + columna("NUMALB") + ", " +
+               columna("EMPRESA") + ", " + columna("PORC_IVA") + ") VALUES(" + Numero_De(informe.Tipus()) +
+               ", 'B00000000', " + porc + ")");
+    }
+    EXPECT_THROW(Imprimir_I_Llegir(informe.Tipus()), Error_Brollador) << informe.informe;
+  }
+}
+
+TEST_F(Informes_Document, ALogoIsPrintedInProportionAndAMissingOneIsNot) {
+  const QString fitxer = QString::fromStdString(installacio.Dir_Dades()) + u"/logo.png"_qs;
+  Executar("UPDATE EMPRESES SET IMATGE_EMP = " + Text_SQL(fitxer.toStdString()));
+  Document_Complet(tipus_factura);
+  QImage logo(900, 300, QImage::Format_ARGB32);
+  logo.fill(QColor(20, 90, 160));
+  ASSERT_TRUE(logo.save(fitxer));
+  Informe informe(DR_Valorat(Informe_De(tipus_factura)));
+  informe.Picture(u"IMG_LOGO"_qs, logo);
+  const QSize mida = informe.Mida_Imatge(u"IMG_LOGO"_qs);
+  EXPECT_NEAR(mida.width(), 3 * mida.height(), 3);
+  Conte(Imprimir_I_Llegir(tipus_factura), {"Ferreteria Montseny, S.L."});
+  QProcess proces;
+  proces.start(u"pdfimages"_qs, {u"-list"_qs, Fitxer_PDF(tipus_factura, 12)});
+  EXPECT_TRUE(proces.waitForFinished());
+  EXPECT_TRUE(QString::fromUtf8(proces.readAllStandardOutput()).contains(QRegularExpression(u" image +900 +300 "_qs)));
+}
+
+// Where the company's block stands, and what it does to the rest of the head.
+TEST_F(Informes_Document, TheBlockOfTheCompanyFollowsItsParameterAndNeverCoversTheLogo) {
+  Document_Complet(tipus_pressupost);
+  const Descripcio_Impressio& descripcio = Informe_De(tipus_pressupost);
+  Omplir_Taula_Impressio(descripcio, 12, empresa);
+  QImage logo(500, 250, QImage::Format_RGB32);
+  logo.fill(Qt::blue);
+  for (const int top : {0, 300, 1417, 2000}) {
+    Informe informe(DR_Valorat(descripcio));
+    informe.Picture(u"IMG_LOGO"_qs, logo);
+    Posar_Bloc_Empresa(informe, top);
+    const QStringList bloc = {u"comentari"_qs, u"nom"_qs, u"nif"_qs, u"adreça"_qs, u"població"_qs};
+    const QStringList controls = {u"L_COMENTARI_EMP"_qs, u"L_RAO_SOCIAL_EMP"_qs, u"L_NIF_EMP"_qs, u"L_ADREÇA_EMP"_qs,
+                                  u"L_CP_POBLACIO_EMP"_qs};
+    for (int i = 0; i < 5; ++i) informe.Caption(controls[i], bloc[i]);
+    informe.Caption(u"L_NOM_FISCAL"_qs, u"client"_qs);
+    Recordset rs(SQL_Impressio(descripcio), sessio.Connexio_Local);
+    QRectF imatge;
+    std::map<QString, QPointF> bases;
+    const auto pagines = informe.Maquetar(rs);
+    for (const auto& element : pagines[0]) {
+      if (const auto* text = std::get_if<Text_Posat>(&element)) bases[text->text] = text->base;
+      if (const auto* posada = std::get_if<Imatge_Posada>(&element)) imatge = posada->lloc;
+    }
+    for (int i = 0; i < 5; ++i) {
+      const double punts = i == 1 ? 10.4 : 9;
+      EXPECT_NEAR(bases[bloc[i]].y(), paper::marge + top + 260 * i + Base_De_Linia({punts}), 1) << top << " " << i;
+      EXPECT_FALSE(imatge.contains(bases[bloc[i]])) << top << " " << i;
+    }
+    EXPECT_NEAR(bases[u"client"_qs].y(), paper::marge + 37.9 * 1440 / 25.4 + Base_De_Linia({10}), 1)
+        << "the customer stays in the window of the envelope";
+  }
+}
+
+TEST_F(Informes_Document, LongNamesAndRemarksWrapAndNothingIsCut) {
+  Executar(
+      "UPDATE CLIENTS SET RAO_SOCIAL_CLI = 'Cooperativa de Serveis Integrals de Manteniment Industrial i Reformes del "
+      "Vallès "
+      "Oriental i el Montseny, S.C.C.L.'");
+  Executar(
+      "UPDATE EMPRESES SET RAO_SOCIAL_EMP = 'Instal·lacions i Subministraments Elèctrics, Hidràulics i de Calefacció "
+      "del "
+      "Baix Montseny i la Tordera, Societat Limitada Unipersonal'");
+  std::string observacions;
+  for (int i = 1; i <= 90; ++i) observacions += "mot" + std::to_string(i) + " ";
+  for (const auto* tipus : {&tipus_albara, &tipus_factura}) {
+    Posar_Document(*tipus, observacions);
+    Posar_Linia(*tipus, "Cargol", 1, 10);
+    const QString text = Imprimir_I_Llegir(*tipus);
+    EXPECT_FALSE(text.contains(u"…"_qs)) << text.toStdString();
+    Conte(text, {"S.C.C.L.", "Unipersonal", "mot1 ", "mot45 ", "mot90", "Cargol"});
+  }
+}
+
+TEST_F(Informes_Document, PagesToLookAt) {
+  sessio.Parametres["P_Codi_Client_Visible"] = "True";
+  for (const auto& informe : Informes_De_Documents()) {
+    Document_Complet(informe.Tipus(), 120);
+    const QString text = Imprimir_I_Llegir(informe.Tipus());
+    EXPECT_TRUE(text.contains(u"1/4"_qs)) << informe.informe << text.right(300).toStdString();
+    EXPECT_EQ(text.count(u"Total €"_qs), 1);
+    EXPECT_EQ(text.count(u"Tub de coure"_qs), 103);
+  }
+}
