@@ -118,6 +118,12 @@ void Enllac_PostgreSQL::Reconnectar() {
   Configurar();
 }
 
+// Its last words come first, and then the end.
+bool Enllac_PostgreSQL::Segueix_Viu() {
+  for (int cops = 0; cops < 2 && Es_Viu(); ++cops) PQconsumeInput(connexio_.get());
+  return Es_Viu();
+}
+
 void Enllac_PostgreSQL::Llancar_Connexio() const {
   const std::string paraules = Sense_Contrasenya(Sense_Salt(PQerrorMessage(connexio_.get())), adreca_);
   Llancar_Sense_Connexio("PostgreSQL", paraules, Adreca_Per_Mostrar(adreca_));

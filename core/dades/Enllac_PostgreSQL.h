@@ -40,6 +40,8 @@ class Enllac_PostgreSQL {
   Resultat_PG Executar_Directe(const std::string& sql);
 
   bool Es_Viu() const { return PQstatus(connexio_.get()) == CONNECTION_OK; }
+  // The same after a look at what the server may have said meanwhile, an end of the connection among it. No trip.
+  bool Segueix_Viu();
   void Reconnectar();
   std::int64_t Viatges() const { return viatges_; }
 

@@ -236,7 +236,7 @@ class Motor_PostgreSQL final : public Motor {
   // a savepoint behind which nothing was written yet.
   void Preparar_Cami(bool escriu) {
     if (comencada_) Exigir_Viva();
-    if (!enllac_.Es_Viu()) {
+    if (comencada_ ? !enllac_.Es_Viu() : !enllac_.Segueix_Viu()) {
       enllac_.Reconnectar();
       per_deixar_.clear();
     }
