@@ -122,8 +122,8 @@ void Cadena::Llegir(const Nivell& nivell, Nivell& seguent) {
                    numeros, [this, quina](const Recordset& rs) {
                      if (!rs[1].Es_Nul()) documents_[{quina, rs[0].Enter()}].flag = rs[1].Boolea() ? -1 : 0;
                    });
-    lectura.Afegir(("SELECT DISTINCT NUMALB_PAG FROM PAGAMENTS WHERE EMPRESA_PAG = {e} AND DOCUMENT_PAG = '" +
-                    std::string(1, lletra) + "' AND NUMALB_PAG IN ({n})")
+    lectura.Afegir(("SELECT DISTINCT NUMALB_PAG FROM PAGAMENTS WHERE EMPRESA_PAG = {e} AND DOCUMENT_PAG = " +
+                    Text_SQL(std::string(1, lletra)) + " AND NUMALB_PAG IN ({n})")
                        .c_str(),
                    numeros, [this, quina](const Recordset& rs) {
                      documents_[{quina, rs[0].Enter()}].pagaments = true;

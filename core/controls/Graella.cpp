@@ -288,7 +288,7 @@ QString Graella::Compte() const {
     return QLocale(QLocale::Catalan).toString(static_cast<qlonglong>(quantes)) + u' ' +
            QString::fromStdString(quantes == 1 ? una : unes);
   };
-  const QString files = text(static_cast<std::size_t>(model_->Files()), Missatge("fila", "fila", "row"),
+  QString files = text(static_cast<std::size_t>(model_->Files()), Missatge("fila", "fila", "row"),
                              Missatge("files", "filas", "rows"));
   const std::size_t triades = Files_Seleccionades().size();
   if (!multiple_ && triades < 2) return files;

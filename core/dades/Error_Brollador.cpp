@@ -68,7 +68,7 @@ const char* En_La_Llengua(const Tres_Llengues& text) {
   return text[static_cast<std::size_t>(idioma_errors)];
 }
 
-std::string Amb_Detall(std::string text, const std::string& detall) {
+std::string Amb_Detall(const std::string& text, const std::string& detall) {
   return detall.empty() ? text : text + ": " + detall;
 }
 

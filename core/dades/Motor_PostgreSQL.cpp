@@ -345,7 +345,7 @@ class Motor_PostgreSQL final : public Motor {
 constexpr const char* base_de_tothom = "postgres";  // the one that every server has
 
 std::string Exigir_Base(const std::string& adreca) {
-  const std::string nom = Base_De_Adreca(adreca);
+  std::string nom = Base_De_Adreca(adreca);
   if (nom.empty() || nom.find('"') != std::string::npos) {
     throw Error_Brollador(errors::general, "PostgreSQL",
                           "the address names no database: " + Adreca_Per_Mostrar(adreca));

@@ -214,7 +214,7 @@ const Columna& Recordset::Interior::Columna_De(const Camp& camp) const {
 // A pessimistic write of a row that was not held before takes the hold on its way, where the engine can; else first.
 std::string Recordset::Interior::Si_Es_Lliure(std::vector<Valor>& parametres) {
   if (bloqueig != Bloqueig::Pessimista || retinguda) return {};
-  const std::string condicio = motor().Condicio_Lliure(static_cast<int>(parametres.size()) + 1);
+  std::string condicio = motor().Condicio_Lliure(static_cast<int>(parametres.size()) + 1);
   if (condicio.empty()) {
     Retenir();
   } else {

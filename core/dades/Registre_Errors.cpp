@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr off_t mida_maxima = 256 * 1024;
+constexpr off_t mida_maxima = off_t{256} * 1024;
 constexpr int fitxers_vells = 3;
 constexpr std::size_t linia_maxima = 2000;
 

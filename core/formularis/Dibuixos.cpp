@@ -62,7 +62,7 @@ QIcon Pintar(const QByteArray& svg, std::initializer_list<int> costats) {
 
 QColor Tinta(Dibuix dibuix) {
   constexpr int mig = 128;
-  const QColor lletra = QApplication::palette().color(QPalette::ButtonText);
+  QColor lletra = QApplication::palette().color(QPalette::ButtonText);
   if (dibuix != Dibuix::Esborrar) return lletra;
   return lletra.lightness() < mig ? vermell : vermell_clar;
 }
@@ -72,7 +72,7 @@ QColor Tinta(Dibuix dibuix) {
 QIcon Icona(Dibuix dibuix) {
   for (const Fitxer_Dibuix& que : dibuixos) {
     if (que.dibuix != dibuix) continue;
-    const QIcon del_tema = QIcon::fromTheme(QString::fromLatin1(que.tema));
+    QIcon del_tema = QIcon::fromTheme(QString::fromLatin1(que.tema));
     if (!del_tema.isNull()) return del_tema;
     QByteArray svg = Llegir(QString::fromLatin1(que.fitxer));
     svg.replace(tinta_del_fitxer, Tinta(dibuix).name().toLatin1());
