@@ -4,7 +4,7 @@
 
 #include <QCheckBox>
 
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "masters/F_Client.h"
 #include "masters/M_Clients.h"
 #include "masters/M_Proveidors.h"

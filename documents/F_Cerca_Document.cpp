@@ -2,10 +2,10 @@
 
 #include <QPushButton>
 
-#include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/formularis/Aparenca.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 
 namespace {
 

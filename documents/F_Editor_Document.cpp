@@ -8,10 +8,10 @@
 #include <algorithm>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/formularis/Aparenca.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "documents/M_Linies_Document.h"
 #include "documents/M_Peu.h"
 #include "session/M_Locks.h"

@@ -1,7 +1,7 @@
 #include "documents/F_Obrir_Document.h"
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "documents/F_Editor_Document.h"
 #include "session/M_Locks.h"
 

@@ -1,7 +1,7 @@
 #include "documents/F_Preus_Linia.h"
 
-#include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/formularis/Formulari.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Dialecte.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "masters/F_ArticlesSelC.h"
 #include "masters/F_Columnes_Articles.h"
 #include "ui_F_ArticlesMC.h"

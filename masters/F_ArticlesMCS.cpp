@@ -1,6 +1,6 @@
 #include "masters/F_ArticlesMCS.h"
 
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "masters/F_Columnes_Articles.h"
 #include "masters/M_Articles.h"
 #include "ui_F_ArticlesMCS.h"

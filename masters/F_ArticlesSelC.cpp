@@ -2,7 +2,7 @@
 
 #include "core/controls/Controls.h"
 #include "core/formularis/Aparenca.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "ui_F_ArticlesSelC.h"
 
 namespace {

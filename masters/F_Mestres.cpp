@@ -1,6 +1,6 @@
 #include "masters/F_Mestres.h"
 
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "masters/F_Article.h"
 #include "masters/F_ArticlesMC.h"
 #include "masters/F_ArticlesMCS.h"

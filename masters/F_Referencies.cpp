@@ -1,6 +1,6 @@
 #include "masters/F_Referencies.h"
 
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/menes/Taula_Referencia.h"
 #include "masters/M_CP.h"
 #include "masters/M_Families.h"

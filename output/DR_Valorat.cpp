@@ -3,6 +3,8 @@
 #include <cmath>
 #include <map>
 
+#include "core/formularis/Text_Qt.h"
+
 namespace {
 
 using enum Mena_Control;
@@ -39,9 +41,6 @@ int Mm(double mil_limetres) {
 // Millimetres from the left margin and from the top of the section.
 QRect Lloc(double x, double y, double ample, double alt) {
   return {Mm(x), Mm(y), Mm(ample), Mm(alt)};
-}
-QString Nom(std::string_view nom) {
-  return QString::fromUtf8(nom.data(), static_cast<qsizetype>(nom.size()));
 }
 
 // The lines of the company's block beside a logo, from its top down.
@@ -175,8 +174,8 @@ class Dibuixant {
   void Titols() {
     Ratllar(u"R_TITOLS_DALT"_qs, 0, y_, ample_full, fosca);
     for (const auto& c : Columnes()) {
-      Posar(u"L_"_qs + Nom(d_.Tipus().lin.Columna(c.titol)), Etiqueta, Lloc(c.x, y_ + 1.5, c.ample, 4), titol_columna,
-            c.x > 0 ? Dreta : Esquerra, Encongir, c.caption);
+      Posar(u"L_"_qs + Text_Qt(d_.Tipus().lin.Columna(c.titol)), Etiqueta, Lloc(c.x, y_ + 1.5, c.ample, 4),
+            titol_columna, c.x > 0 ? Dreta : Esquerra, Encongir, c.caption);
     }
     Ratllar(u"R_TITOLS_BAIX"_qs, 0, y_ + 6.2, ample_full, fosca);
     Alcada(y_ + 7.4);
@@ -184,7 +183,7 @@ class Dibuixant {
 
   void Detall() {
     for (const auto& c : Columnes()) {
-      Posar(u"TXT_"_qs + Nom(d_.taula.Columna(c.camp)), Camp, Lloc(c.x, 0.6, c.ample, 4), text_linia,
+      Posar(u"TXT_"_qs + Text_Qt(d_.taula.Columna(c.camp)), Camp, Lloc(c.x, 0.6, c.ample, 4), text_linia,
             c.x > 0 ? Dreta : Esquerra, c.x > 0 ? Encongir : Creixer);
     }
     Alcada(4.7);
@@ -228,7 +227,7 @@ class Dibuixant {
 
   void Peu_Empresa(const Linia_De_Peu& peu) {
     y_ += 1.5;
-    const QString nom = u"L_"_qs + Nom(peu.nom);
+    const QString nom = u"L_"_qs + Text_Qt(peu.nom);
     const bool amb_titol = peu.titol != nullptr;
     const double x = amb_titol ? 23 : 0;
     Posar(nom + u"_EMP"_qs, Etiqueta, Lloc(x, y_, ample_full - x, 4), titol, Esquerra, Creixer);

@@ -2,6 +2,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Imatge_De_Fitxer.h"
+#include "core/formularis/Text_Qt.h"
 #include "output/DR_Valorat.h"
 #include "output/M_Impressio.h"
 #include "output/informe/Sortida.h"
@@ -10,18 +11,14 @@ namespace {
 
 constexpr QSize maxim_logo{1700, 600};  // dots: 600 an inch in its place on the page
 
-QString Qt_Text(const std::string& text) {
-  return QString::fromStdString(text);
-}
-
 void Posar(Informe& informe, const Ompliment_Informe& ompliment, bool logo) {
   if (logo) {
-    informe.Picture(u"IMG_LOGO"_qs, Imatge_De_Fitxer(Qt_Text(ompliment.imatge), maxim_logo));
+    informe.Picture(u"IMG_LOGO"_qs, Imatge_De_Fitxer(Text_Qt(ompliment.imatge), maxim_logo));
     Posar_Bloc_Empresa(informe, ompliment.posicio_top);
   }
-  for (const auto& [control, text] : ompliment.textos) informe.Caption(Qt_Text(control), Qt_Text(text));
-  for (const auto& control : ompliment.amagats) informe.Visible(Qt_Text(control), false);
-  for (const auto& [control, mascara] : ompliment.formats) informe.Data_Format(Qt_Text(control), mascara);
+  for (const auto& [control, text] : ompliment.textos) informe.Caption(Text_Qt(control), Text_Qt(text));
+  for (const auto& control : ompliment.amagats) informe.Visible(Text_Qt(control), false);
+  for (const auto& [control, mascara] : ompliment.formats) informe.Data_Format(Text_Qt(control), mascara);
 }
 
 Pagines Fer_Pagines(const Descripcio_Impressio& descripcio, const Valor& numero, const std::string& empresa,
@@ -30,7 +27,7 @@ Pagines Fer_Pagines(const Descripcio_Impressio& descripcio, const Valor& numero,
   informe.Traduir();
   const bool valorat = sessio.Crida_Document != std::string(descripcio.Tipus().formulari) + ";NO_VALORAT";
   Posar(informe, Omplir_Informe(descripcio, numero, empresa, valorat), descripcio.logo);
-  return {.titol = informe.Caption(u"L_ALBARA"_qs) + u' ' + Qt_Text(numero.Text()),
+  return {.titol = informe.Caption(u"L_ALBARA"_qs) + u' ' + Text_Qt(numero.Text()),
           .autor = informe.Caption(u"L_RAO_SOCIAL_EMP"_qs),
           .pagines = informe.Maquetar(files)};
 }
@@ -77,6 +74,6 @@ void Imprimir_Document(const Tipus_Document& tipus, const Valor& numero, const s
 QString Fitxer_PDF(const Tipus_Document& tipus, const Valor& numero) {
   const Descripcio_Impressio& informe = Informe_De(tipus);
   const QString nom = QString::fromUtf8(informe.prefix_pdf.data(), static_cast<qsizetype>(informe.prefix_pdf.size())) +
-                      Qt_Text(numero.Text());
-  return Qt_Text(sessio.Dir_Temp) + Nom_De_Fitxer(nom) + QStringLiteral(".pdf");
+                      Text_Qt(numero.Text());
+  return Text_Qt(sessio.Dir_Temp) + Nom_De_Fitxer(nom) + QStringLiteral(".pdf");
 }

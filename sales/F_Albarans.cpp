@@ -1,7 +1,7 @@
 #include "sales/F_Albarans.h"
 
 #include "core/formularis/Amb_Ui.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "documents/F_Cerca_Document.h"
 #include "documents/F_Editor_Document.h"
 #include "documents/F_Llista_Documents.h"

@@ -1,6 +1,6 @@
 #include "session/Canvi_Idioma.h"
 
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "session/M_Idiomes.h"
 #include "session/M_Usuaris.h"
 

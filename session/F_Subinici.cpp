@@ -1,8 +1,8 @@
 #include "session/F_Subinici.h"
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Camps.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/controls/Focus_Camps.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/formularis/Serveis.h"
 #include "core/formularis/Teclat.h"
 #include "session/M_Locks.h"

@@ -4,8 +4,8 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/formularis/Aparenca.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/formularis/Pantalla_Qt.h"
 #include "core/formularis/Serveis.h"
 #include "masters/F_Mestres.h"

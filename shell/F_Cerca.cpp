@@ -6,11 +6,11 @@
 #include <algorithm>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Camps.h"
-#include "core/controls/Files.h"
+#include "core/controls/Fila_Recordada.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Aparenca.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "shell/F_Principal.h"
 #include "ui_F_Cerca.h"
 

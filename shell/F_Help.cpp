@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/formularis/Aparenca.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "shell/F_Principal.h"
 #include "shell/Menu_Principal.h"
 #include "ui_F_Help.h"

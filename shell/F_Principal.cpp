@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/dades/Espera.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Finestres.h"

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Camps.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "session/Canvi_Idioma.h"
 #include "session/M_Empresa.h"
 #include "session/M_Usuaris.h"

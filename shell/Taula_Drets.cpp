@@ -1,9 +1,9 @@
 #include <QLineEdit>
 
 #include "core/controls/Controls.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Drets.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "shell/Taules.h"
 
 namespace {

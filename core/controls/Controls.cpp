@@ -14,7 +14,7 @@
 #include <array>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/dades/Dates.h"
 #include "core/dades/Numeros.h"
 #include "core/formularis/Teclat.h"

@@ -9,7 +9,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Delegat_Graella.h"
-#include "core/controls/Files.h"
+#include "core/controls/Fila_Recordada.h"
 #include "core/controls/Model_Recordset.h"
 #include "core/dades/Dialecte.h"
 #include "core/formularis/Formulari.h"
@@ -289,7 +289,7 @@ QString Graella::Compte() const {
            QString::fromStdString(quantes == 1 ? una : unes);
   };
   QString files = text(static_cast<std::size_t>(model_->Files()), Missatge("fila", "fila", "row"),
-                             Missatge("files", "filas", "rows"));
+                       Missatge("files", "filas", "rows"));
   const std::size_t triades = Files_Seleccionades().size();
   if (!multiple_ && triades < 2) return files;
   return files + QStringLiteral(", ") +

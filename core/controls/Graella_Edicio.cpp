@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "core/controls/Model_Recordset.h"
 #include "core/formularis/Formulari.h"

@@ -4,8 +4,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/dades/Connexio.h"
 #include "core/dades/Numeros.h"
 #include "core/formularis/Formulari.h"

@@ -6,12 +6,12 @@
 #include <QLineEdit>
 #include <QMdiSubWindow>
 
-#include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Finestra_Principal.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 
 #include "core/controls/Controls.h"
 #include "core/controls/Graella.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/formularis/Motius.h"
 
 namespace {

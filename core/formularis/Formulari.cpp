@@ -4,11 +4,11 @@
 #include <QKeyEvent>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Drets.h"
 #include "core/formularis/Finestres.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/formularis/Motius.h"
 #include "core/formularis/Teclat.h"
 

@@ -1,7 +1,7 @@
 // The base of every form: a child of the main window that exists at most once, known by its name.
 //
 // A form overrides what it needs of its life: Carregar (recordsets, grids), Activar (it came to the front), Descarregar
-// (it goes). The services around it (Control_Interface.h) translate it, disable its parents and give it its rights.
+// (it goes). The services around it (Formularis_Oberts.h) translate it, disable its parents and give it its rights.
 #pragma once
 
 #include <QWidget>

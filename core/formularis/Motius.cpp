@@ -4,8 +4,8 @@
 #include <QWidget>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 
 namespace {
 

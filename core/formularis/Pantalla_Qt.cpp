@@ -7,19 +7,16 @@
 #include <stdexcept>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Finestra_Principal.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/formularis/Serveis.h"
+#include "core/formularis/Text_Qt.h"
 
 std::function<Resposta(const QString&, int, const QString&)> Pantalla_Qt::Contestador;
 std::function<std::string(const std::string&, int)> Pantalla_Qt::Triador_Empresa;
 
 namespace {
-
-QString Qt_Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QMessageBox::Icon Icona_De(int estil) {
   switch (estil & 0xF0) {
@@ -87,14 +84,14 @@ Pantalla_Qt::Pantalla_Qt() {
 }
 
 Resposta Pantalla_Qt::Obrir_Caixa(const std::string& text, int estil, const std::string& titol) {
-  const QString escrit = Qt_Text(text);
-  if (Contestador) return Contestador(escrit, estil, Qt_Text(titol));
-  QMessageBox caixa(Icona_De(estil), Qt_Text(titol), escrit, QMessageBox::NoButton, QApplication::activeWindow());
+  const QString escrit = Text_Qt(text);
+  if (Contestador) return Contestador(escrit, estil, Text_Qt(titol));
+  QMessageBox caixa(Icona_De(estil), Text_Qt(titol), escrit, QMessageBox::NoButton, QApplication::activeWindow());
   caixa.setTextFormat(Qt::PlainText);
   const bool si_no = (estil & 0x0F) == estil::si_no;
   const bool pregunta = si_no || (estil & 0x0F) == estil::ok_cancel;
   const auto boto = [&](const char* catala, const char* castella, const char* angles, QMessageBox::ButtonRole paper) {
-    return caixa.addButton(Qt_Text(Missatge(catala, castella, angles)), paper);
+    return caixa.addButton(Text_Qt(Missatge(catala, castella, angles)), paper);
   };
   const auto* afirma = si_no ? boto("&Sí", "&Sí", "&Yes", QMessageBox::YesRole)
                              : boto("D'&acord", "&Aceptar", "&OK", QMessageBox::AcceptRole);
@@ -114,11 +111,11 @@ Resposta Pantalla_Qt::Obrir_Caixa(const std::string& text, int estil, const std:
 }
 
 bool Pantalla_Qt::Formulari_Carregat(std::string_view nom) const {
-  return Formulari_De_Nom(Qt_Text(nom)) != nullptr;
+  return Formulari_De_Nom(Text_Qt(nom)) != nullptr;
 }
 
 Document_Obert* Pantalla_Qt::Document(std::string_view nom_formulari) {
-  Formulari* formulari = Formulari_De_Nom(Qt_Text(nom_formulari));
+  Formulari* formulari = Formulari_De_Nom(Text_Qt(nom_formulari));
   return formulari == nullptr ? nullptr : formulari->Document();
 }
 
@@ -156,17 +153,17 @@ std::string Pantalla_Qt::Obrir_Tria_Empresa(const std::string& actual, int idiom
 }
 
 void Pantalla_Qt::Menu_Habilitat(std::string_view entrada, bool habilitat) {
-  Finestra_Principal::Unica()->Habilitar(Qt_Text(entrada), habilitat);
+  Finestra_Principal::Unica()->Habilitar(Text_Qt(entrada), habilitat);
 }
 void Pantalla_Qt::Menu_Visible(std::string_view entrada, bool visible) {
-  Finestra_Principal::Unica()->Accio(Qt_Text(entrada))->setVisible(visible);
+  Finestra_Principal::Unica()->Accio(Text_Qt(entrada))->setVisible(visible);
 }
 void Pantalla_Qt::Menu_Marcat(std::string_view entrada, bool marcat) {
-  Finestra_Principal::Unica()->Accio(Qt_Text(entrada))->setChecked(marcat);
+  Finestra_Principal::Unica()->Accio(Text_Qt(entrada))->setChecked(marcat);
 }
 void Pantalla_Qt::Menu_Text(std::string_view entrada, const std::string& text) {
   // Its first letter is its key.
   Finestra_Principal::Unica()
-      ->Accio(Qt_Text(entrada))
-      ->setText(u'&' + Qt_Text(text).replace(u'&', QStringLiteral("&&")));
+      ->Accio(Text_Qt(entrada))
+      ->setText(u'&' + Text_Qt(text).replace(u'&', QStringLiteral("&&")));
 }

@@ -15,9 +15,9 @@
 #include "core/M_Textos.h"
 #include "core/controls/Controls.h"
 #include "core/controls/Graella.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Finestra_Principal.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/formularis/Llengua_Qt.h"
 
 namespace {

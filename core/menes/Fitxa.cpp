@@ -7,9 +7,9 @@
 #include <algorithm>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/formularis/Aparenca.h"
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/formularis/Serveis.h"
 
 Fitxa::Fitxa(const QString& nom, std::string taula) : Formulari(nom), taula_(std::move(taula)) {}

@@ -9,11 +9,11 @@
 #include <algorithm>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Files.h"
+#include "core/controls/Fila_Recordada.h"
 #include "core/formularis/Aparenca.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Crides.h"
 #include "core/formularis/Drets.h"
+#include "core/formularis/Formularis_Oberts.h"
 
 namespace {
 

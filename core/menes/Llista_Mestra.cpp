@@ -1,6 +1,6 @@
 #include "core/menes/Llista_Mestra.h"
 
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 
 // No row is made for an editor that cannot show it yet.
 void Llista_Mestra::Nou() {

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <thread>
 
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Pantalla_Qt.h"
 #include "session/M_Locks.h"

@@ -11,8 +11,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Drets.h"
 #include "tests/pantalles/Cada_Pantalla.h"

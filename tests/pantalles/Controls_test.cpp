@@ -3,7 +3,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "tests/pantalles/Base_Pantalles.h"
 #include "tests/pantalles/Finestra_De_Camps.h"
 

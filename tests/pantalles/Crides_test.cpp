@@ -6,8 +6,8 @@
 #include <QSet>
 #include <QTest>
 
-#include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/formularis/Pares.h"
 #include "shell/F_Cerca.h"
 #include "tests/pantalles/Formularis_De_Prova.h"

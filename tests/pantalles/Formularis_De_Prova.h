@@ -7,7 +7,7 @@
 #include <QMdiSubWindow>
 #include <QVBoxLayout>
 
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "core/menes/Llista.h"
 #include "shell/F_Principal.h"
 #include "tests/pantalles/Base_Pantalles.h"

@@ -8,7 +8,7 @@
 #include <QTest>
 #include <filesystem>
 
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Drets.h"
 #include "tests/pantalles/Cada_Pantalla.h"

@@ -4,7 +4,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/formularis/Amb_Ui.h"
 #include "core/formularis/Pares.h"
 #include "documents/F_Cerca_Document.h"

@@ -2,8 +2,8 @@
 #include <QApplication>
 #include <QPushButton>
 
-#include "core/controls/Camps.h"
 #include "core/controls/Controls.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "shell/Aplicacio.h"
 #include "tests/pantalles/Formularis_De_Prova.h"

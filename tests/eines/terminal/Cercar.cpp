@@ -6,8 +6,8 @@
 #include <QMenu>
 
 #include "core/controls/Controls.h"
-#include "core/formularis/Control_Interface.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Formularis_Oberts.h"
 
 namespace {
 

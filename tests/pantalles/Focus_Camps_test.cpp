@@ -1,5 +1,5 @@
 // Fields as the user comes to them, leaves them and is kept in them.
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -12,7 +12,7 @@
 #include "core/formularis/Formulari.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
-TEST(Camps, A_field_that_goes_with_its_window_is_not_left) {
+TEST(Focus_Camps, A_field_that_goes_with_its_window_is_not_left) {
   int vegades = 0;
   {
     QWidget finestra;
@@ -26,7 +26,7 @@ TEST(Camps, A_field_that_goes_with_its_window_is_not_left) {
   EXPECT_EQ(vegades, 0);
 }
 
-TEST(Camps, Leaving_runs_before_entering_and_neither_runs_while_the_focus_is_kept) {
+TEST(Focus_Camps, Leaving_runs_before_entering_and_neither_runs_while_the_focus_is_kept) {
   QStringList fets;
   QWidget finestra;
   QLineEdit a(&finestra);
@@ -127,7 +127,7 @@ TEST(Refus, Is_seen_in_the_field_with_the_focus_in_its_tooltip_and_below_the_for
 
 // ---- Whatever acts on a form leaves its field first
 
-TEST(Camps, A_button_pressed_by_its_key_leaves_the_field_first_and_waits_for_one_that_refuses) {
+TEST(Focus_Camps, A_button_pressed_by_its_key_leaves_the_field_first_and_waits_for_one_that_refuses) {
   QStringList fets;
   Formulari formulari(QStringLiteral("F_Prova"));
   QVBoxLayout columna(&formulari);
@@ -181,7 +181,7 @@ TEST_F(Camps_En_Tancar, Closing_a_form_leaves_its_field_and_nobody_is_kept) {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-TEST(Camps, Refusing_a_thousand_times_makes_no_connection_more) {
+TEST(Focus_Camps, Refusing_a_thousand_times_makes_no_connection_more) {
   QWidget finestra;
   QLineEdit camp(&finestra);
   En_Sortir(&camp, [&] { Retenir_Focus(&camp); });

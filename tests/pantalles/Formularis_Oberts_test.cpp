@@ -1,4 +1,4 @@
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 
 #include <QMdiArea>
 #include <QTest>

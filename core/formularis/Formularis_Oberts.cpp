@@ -1,4 +1,4 @@
-#include "core/formularis/Control_Interface.h"
+#include "core/formularis/Formularis_Oberts.h"
 
 #include <QApplication>
 #include <QMdiArea>
@@ -7,7 +7,7 @@
 #include <map>
 
 #include "core/M_Funcions_Comuns.h"
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Crides.h"

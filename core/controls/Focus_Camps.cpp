@@ -1,4 +1,4 @@
-#include "core/controls/Camps.h"
+#include "core/controls/Focus_Camps.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "core/controls/Files.h"
+#include "core/controls/Fila_Recordada.h"
 
 Fila_Recordada::Fila_Recordada(Recordset& rs) : rs_(rs) {
   if (!rs.State() || rs.AbsolutePosition() < 1) return;
