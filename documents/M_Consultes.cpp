@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "core/M_Funcions_Comuns.h"
+#include "core/dades/Nombre_Escrit.h"
 #include "core/dades/Numeros.h"
 
 namespace {
@@ -12,7 +13,7 @@ constexpr const char* numero_maxim = "999999999";
 constexpr const char* text_maxim = "ZZZZZZZZZZZZZZZ";
 
 double Numero_De(const std::string& text) {
-  const std::optional<double> numero = Numero_De_Text(text);
+  const std::optional<double> numero = Nombre_Escrit(text);
   if (!numero) Llancar_Error(errors::sentencia, "Consultes", text);
   return *numero;
 }

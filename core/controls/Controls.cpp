@@ -16,6 +16,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Focus_Camps.h"
 #include "core/dades/Dates.h"
+#include "core/dades/Nombre_Escrit.h"
 #include "core/dades/Numeros.h"
 #include "core/formularis/Teclat.h"
 
@@ -275,10 +276,10 @@ void Camp_Numeric::Mascara(const char* mascara) {
   mascara_ = mascara;
 }
 bool Camp_Numeric::Es_Numeric() const {
-  return Numero_De_Text(text().toStdString()).has_value();
+  return Nombre_Escrit(text().toStdString()).has_value();
 }
 double Camp_Numeric::Numero() const {
-  return Numero_De_Text(text().toStdString()).value_or(0);
+  return Nombre_Escrit(text().toStdString()).value_or(0);
 }
 void Camp_Numeric::Numero(double valor) {
   setText(QString::fromStdString(Format_Numero(valor, mascara_)));

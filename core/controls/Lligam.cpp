@@ -7,17 +7,16 @@
 #include "core/controls/Controls.h"
 #include "core/controls/Focus_Camps.h"
 #include "core/dades/Connexio.h"
-#include "core/dades/Numeros.h"
+#include "core/dades/Nombre_Escrit.h"
 #include "core/formularis/Formulari.h"
 
 Valor Llegir_Escrit(const QString& text, Tipus_Columna tipus, const QString& on) {
   if (text.isEmpty()) return {};
   if (tipus == Tipus_Columna::Codi) Text_SQL(text.toStdString());  // statements name it
   if (tipus == Tipus_Columna::Codi || tipus == Tipus_Columna::Text) return text.toStdString();
-  const std::string net = text.trimmed().toStdString();
   if (tipus == Tipus_Columna::Data || tipus == Tipus_Columna::Data_Hora) {
     if (const auto dia = Dia_Escrit(text)) return *dia;
-  } else if (const auto nombre = Numero_De_Text(net)) {
+  } else if (const auto nombre = Nombre_Escrit(text.toStdString())) {
     return tipus == Tipus_Columna::Doble ? Valor(*nombre) : Valor(Valor(*nombre).Enter());
   }
   constexpr int prou = 40;  // of a text that a box can show

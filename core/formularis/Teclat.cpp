@@ -34,8 +34,15 @@ constexpr int maxim_passos = 20;  // a form of nothing but such buttons
 }  // namespace
 
 bool Punt_Per_Coma(const QKeyEvent& tecla, QLineEdit& camp) {
-  if (tecla.text() != u"." || camp.isReadOnly()) return false;
-  camp.insert(QStringLiteral(","));
+  const bool punt = tecla.text() == u".";
+  if ((!punt && tecla.text() != u",") || camp.isReadOnly()) return false;
+  const int on = camp.hasSelectedText() ? camp.selectionStart() : camp.cursorPosition();
+  const int fins_a = camp.hasSelectedText() ? camp.selectionEnd() : on;
+  const QString abans = camp.text().left(on);
+  const bool segona = abans.contains(u',');
+  const bool de_milers = punt && (segona || camp.text().indexOf(u',', fins_a) >= 0);
+  if (segona) camp.setSelection(0, fins_a);
+  camp.insert((segona ? QString(abans).replace(u',', u'.') : QString()) + (de_milers ? u'.' : u','));
   return true;
 }
 

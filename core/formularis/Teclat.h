@@ -7,7 +7,9 @@ class QKeyEvent;
 class QLineEdit;
 class QWidget;
 
-// The point of the keyboard or of its numeric pad shows a comma in a numeric field. True when it did.
+// The point of the keyboard or of its numeric pad shows a comma in a numeric field. Who goes on to a second mark was
+// typing thousands: the ones before become points, and a point stays one ("1.234,50" and "1.234.567" can be typed as
+// they are written). True when the key was a mark and the field has it.
 bool Punt_Per_Coma(const QKeyEvent& tecla, QLineEdit& camp);
 
 // Enter: a button is pressed, any other field is left for the next one, whose text is selected. The two fields of the

@@ -2,6 +2,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <tuple>
 
 #include "core/controls/Focus_Camps.h"
 #include "tests/pantalles/Base_Pantalles.h"
@@ -12,6 +13,41 @@ TEST(Camp_Numeric, The_period_gives_a_comma) {
   QTest::keyClicks(&camp, QStringLiteral("12.5"));
   EXPECT_EQ(camp.text(), QStringLiteral("12,5"));
   EXPECT_EQ(camp.Numero(), 12.5);
+}
+
+TEST(Camp_Numeric, Thousands_can_be_typed_as_they_are_written) {
+  const std::tuple<const char*, const char*, double> escrits[] = {
+      {"1.234,50", "1.234,50", 1234.5},
+      {"1.234.567", "1.234.567", 1234567},
+      {"1.234.567,8", "1.234.567,8", 1234567.8},
+      {"-1,5", "-1,5", -1.5},
+      {"+3", "+3", 3},
+  };
+  for (const auto& [tecles, text, valor] : escrits) {
+    Camp_Numeric camp;
+    QTest::keyClicks(&camp, QString::fromLatin1(tecles));
+    EXPECT_EQ(camp.text(), QString::fromLatin1(text)) << tecles;
+    EXPECT_EQ(camp.Numero(), valor) << tecles;
+  }
+}
+
+TEST(Camp_Numeric, A_point_before_the_decimals_is_of_thousands) {
+  Camp_Numeric camp;
+  camp.setText(QStringLiteral("1234,50"));
+  camp.setCursorPosition(1);
+  QTest::keyClicks(&camp, QStringLiteral("."));
+  EXPECT_EQ(camp.text(), QStringLiteral("1.234,50"));
+}
+
+TEST(Camp_Numeric, A_mark_typed_over_the_decimals_is_theirs) {
+  Camp_Numeric camp;
+  camp.setText(QStringLiteral("12,50"));
+  camp.setSelection(2, 3);
+  QTest::keyClicks(&camp, QStringLiteral(".7"));
+  EXPECT_EQ(camp.text(), QStringLiteral("12,7"));
+  camp.selectAll();
+  QTest::keyClicks(&camp, QStringLiteral(".7"));
+  EXPECT_EQ(camp.text(), QStringLiteral(",7"));
 }
 
 TEST(Camp_Numeric, Shows_its_number_under_its_mask) {
