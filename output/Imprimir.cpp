@@ -63,12 +63,16 @@ class Taula_De_Treball {
 
 }  // namespace
 
-void Imprimir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) {
+Pagines Pagines_De_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
   const Descripcio_Impressio& informe = Informe_De(tipus);
   const Taula_De_Treball taula(informe, numero, empresa);
   Recordset files(SQL_Impressio(informe), sessio.Connexio_Local);
-  if (files.RecordCount() == 0) return;
-  Treure(Fer_Pagines(informe, numero, empresa, files), Fitxer_PDF(tipus, numero), mode);
+  return files.RecordCount() == 0 ? Pagines{} : Fer_Pagines(informe, numero, empresa, files);
+}
+
+void Imprimir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) {
+  const Pagines pagines = Pagines_De_Document(tipus, numero, empresa);
+  if (!pagines.pagines.empty()) Treure(pagines, Fitxer_PDF(tipus, numero), mode);
 }
 
 QString Fitxer_PDF(const Tipus_Document& tipus, const Valor& numero) {

@@ -5,7 +5,29 @@
 #include <QIcon>
 #include <QPushButton>
 
-enum class Dibuix { Nou, Esborrar, Sortir, Imprimir, Amunt, Avall, Cercar, Netejar, Calcular, Correu, Llista };
+enum class Dibuix {
+  Nou,
+  Esborrar,
+  Sortir,
+  Imprimir,
+  Desar,
+  Amunt,
+  Avall,
+  Primera,
+  Anterior,
+  Seguent,
+  Darrera,
+  Cercar,
+  Ampliar,
+  Reduir,
+  Mida_Real,
+  Amplada,
+  Tot_El_Full,
+  Netejar,
+  Calcular,
+  Correu,
+  Llista
+};
 
 QIcon Icona(Dibuix dibuix);
 QIcon Icona_Programa();

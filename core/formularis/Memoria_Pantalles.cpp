@@ -67,8 +67,12 @@ void Recordar_Amplada(const QString& formulari, const QString& graella, const QS
 }
 
 namespace {
-const QString clau_principal = QStringLiteral("*/principal");  // no code of a user is written with a star
-}
+// The terminal's own: no code of a user is written with a star.
+const QString clau_principal = QStringLiteral("*/principal");
+const QString clau_impressora = QStringLiteral("*/impressora");
+const QString clau_copies = QStringLiteral("*/copies");
+constexpr int maxim_copies = 999;
+}  // namespace
 
 QByteArray Estat_Recordat() {
   return QByteArray::fromBase64(QSettings(Fitxer(), QSettings::IniFormat).value(clau_principal).toString().toLatin1());
@@ -76,4 +80,16 @@ QByteArray Estat_Recordat() {
 
 void Recordar_Estat(const QByteArray& estat) {
   QSettings(Fitxer(), QSettings::IniFormat).setValue(clau_principal, QString::fromLatin1(estat.toBase64()));
+}
+
+Impressora_Recordada Darrera_Impressora() {
+  const QSettings fitxer(Fitxer(), QSettings::IniFormat);
+  const int copies = fitxer.value(clau_copies).toInt();
+  return {.nom = fitxer.value(clau_impressora).toString(), .copies = copies > 0 && copies <= maxim_copies ? copies : 1};
+}
+
+void Recordar_Impressora(const Impressora_Recordada& impressora) {
+  QSettings fitxer(Fitxer(), QSettings::IniFormat);
+  fitxer.setValue(clau_impressora, impressora.nom);
+  fitxer.setValue(clau_copies, impressora.copies);
 }

@@ -1,6 +1,6 @@
 // What each user of this terminal did to the windows: their sizes and the widths of their columns, in a file of the
-// data folder. A file that is missing, damaged or cannot be written is as good as an empty one. Before a login nothing
-// but the main window is remembered.
+// data folder; and the printer of the terminal. A file that is missing, damaged or cannot be written is as good as an
+// empty one. Before a login no form is remembered.
 #pragma once
 
 #include <QByteArray>
@@ -19,3 +19,11 @@ void Recordar_Amplada(const QString& formulari, const QString& graella, const QS
 // when nothing is remembered.
 QByteArray Estat_Recordat();
 void Recordar_Estat(const QByteArray& estat);
+
+// What the last job of this terminal was printed with, whoever printed it.
+struct Impressora_Recordada {
+  QString nom = {};  // empty: the computer's own choice
+  int copies = 1;
+};
+Impressora_Recordada Darrera_Impressora();
+void Recordar_Impressora(const Impressora_Recordada& impressora);

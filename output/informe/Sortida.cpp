@@ -5,12 +5,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QPageLayout>
-#include <QPainter>
 #include <QPdfWriter>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QStandardPaths>
@@ -19,34 +14,15 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Formulari.h"
+#include "output/informe/Aparell.h"
+#include "output/informe/Impressora.h"
 #include "output/informe/Informe.h"
+#include "output/informe/Treballs.h"
 
 namespace {
 
-constexpr double twips_per_polzada = 1440;
-
 QString Paraula(const char* catala, const char* castella, const char* angles) {
   return QString::fromStdString(Missatge(catala, castella, angles));
-}
-
-[[noreturn]] void Llancar_No_Escrit(const QString& detall) {
-  const std::string text =
-      Missatge("No es pot escriure el document", "No se puede escribir el documento", "The document cannot be written");
-  throw Error_Brollador(errors::general, "Sortida", text + ": " + detall.toStdString());
-}
-
-// False when the device takes nothing.
-bool Pintar_A(QPagedPaintDevice& aparell, const Pagines& pagines, int des_de, int fins_a) {
-  QPainter pintor;
-  if (!pintor.begin(&aparell)) return false;
-  const double escala = aparell.logicalDpiX() / twips_per_polzada;
-  for (int pagina = des_de; pagina <= fins_a; ++pagina) {
-    if (pagina > des_de && !aparell.newPage()) return false;
-    pintor.resetTransform();
-    pintor.scale(escala, escala);
-    Pintar_Pagina(pintor, pagines.pagines[static_cast<std::size_t>(pagina)]);
-  }
-  return pintor.end();
 }
 
 int Ultima(const Pagines& pagines) {
@@ -66,10 +42,6 @@ QByteArray Metadades(const Pagines& pagines) {
       .toUtf8();
 }
 
-QPageLayout Full_A4(const Pagines& pagines) {
-  return {QPageSize(QPageSize::A4), pagines.apaisades ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
-}
-
 const QString extensio = QStringLiteral(".pdf");
 
 bool Sobreescriure(const QString& fitxer) {
@@ -78,11 +50,6 @@ bool Sobreescriure(const QString& fitxer) {
                "This file exists already. Do you want to replace it?");
   return sessio.pantalla->Caixa(pregunta + "\n" + fitxer.toStdString(), estil::pregunta | estil::si_no) == Resposta::Si;
 }
-
-QString carpeta_treballs;
-std::function<int()> copies_treballs;
-QString darrer_treball;
-int treballs = 0;
 
 }  // namespace
 
@@ -97,29 +64,6 @@ void Escriure_PDF(const Pagines& pagines, const QString& fitxer) {
   pdf.setDocumentXmpMetadata(Metadades(pagines));
   const bool escrit = Pintar_A(pdf, pagines, 0, Ultima(pagines));
   if (!escrit || !sortida.commit()) Llancar_No_Escrit(fitxer + QStringLiteral(": ") + sortida.errorString());
-}
-
-void Preparar_Impressora(const Pagines& pagines, QPrinter& impressora) {
-  impressora.setFullPage(true);
-  impressora.setPageLayout(Full_A4(pagines));
-  impressora.setDocName(pagines.titol);
-}
-
-void Enviar_A_Impressora(const Pagines& pagines, QPrinter& impressora) {
-  const bool tram = impressora.printRange() == QPrinter::PageRange && impressora.fromPage() > 0;
-  const int ultima = tram ? std::min(impressora.toPage() - 1, Ultima(pagines)) : Ultima(pagines);
-  const int primera = tram ? std::min(impressora.fromPage() - 1, ultima) : 0;
-  if (!Pintar_A(impressora, pagines, primera, ultima)) Llancar_No_Escrit(impressora.printerName());
-}
-
-bool Demanar_Impressora(const Pagines& pagines, QWidget* pare) {
-  QPrinter impressora(QPrinter::HighResolution);
-  Preparar_Impressora(pagines, impressora);
-  QPrintDialog dialeg(&impressora, pare);
-  dialeg.setMinMax(1, Ultima(pagines) + 1);
-  if (dialeg.exec() != QDialog::Accepted) return false;
-  Enviar_A_Impressora(pagines, impressora);
-  return true;
 }
 
 QString Nom_De_Fitxer(QString text) {
@@ -152,27 +96,14 @@ bool Demanar_PDF(const Pagines& pagines, QWidget* pare) {
 }
 
 void Imprimir_Pagines(const Pagines& pagines) {
-  if (carpeta_treballs.isEmpty()) return Dialeg_Impressio(pagines, QApplication::activeWindow());
-  const int copies = copies_treballs ? copies_treballs() : 1;
-  if (copies < 1) return;
-  Pagines totes = pagines;
-  for (int copia = 1; copia < copies; ++copia)
-    totes.pagines.insert(totes.pagines.end(), pagines.pagines.begin(), pagines.pagines.end());
-  darrer_treball = QStringLiteral("%1/treball-%2.pdf").arg(carpeta_treballs).arg(++treballs);
-  Escriure_PDF(totes, darrer_treball);
-}
-
-void Fixar_Carpeta_Treballs(const QString& carpeta) {
-  carpeta_treballs = carpeta;
-}
-void Fixar_Copies_Treballs(std::function<int()> copies) {
-  copies_treballs = std::move(copies);
-}
-int Treballs_Impresos() {
-  return treballs;
-}
-QString Darrer_Treball() {
-  return darrer_treball;
+  if (Treballs_A_Fitxers()) {
+    const int copies = Demanar_Copies_Treball();
+    if (copies != treballs::finestra) {
+      Fer_Treball(pagines, copies);
+      return;
+    }
+  }
+  Dialeg_Impressio(pagines, QApplication::activeWindow());
 }
 
 void Dialeg_Impressio(const Pagines& pagines, QWidget* pare) {
@@ -205,7 +136,8 @@ void Dialeg_Impressio(const Pagines& pagines, QWidget* pare) {
   };
   auto* imprimir = boto("B_Imprimir", Paraula("&Imprimir...", "&Imprimir...", "&Print..."), Dibuix::Imprimir,
                         [&] { return Demanar_Impressora(pagines, &dialeg); });
-  imprimir->setEnabled(!QPrinterInfo::availablePrinterNames().isEmpty());
+  imprimir->setEnabled(Hi_Ha_Impressora());
+  if (!imprimir->isEnabled()) imprimir->setToolTip(Sense_Impressora());
   boto("B_Previsualitzar", Paraula("&Previsualitzar", "&Vista previa", "Pre&view"), Dibuix::Cercar,
        [&] { return Previsualitzar(pagines, &dialeg); });
   boto("B_PDF", Paraula("&Desar com a PDF...", "&Guardar como PDF...", "&Save as PDF..."), Dibuix::Llista,

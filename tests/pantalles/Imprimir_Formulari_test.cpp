@@ -2,7 +2,7 @@
 #include "shell/Imprimir_Formulari.h"
 
 #include "output/informe/Informe.h"
-#include "output/informe/Sortida.h"
+#include "output/informe/Treballs.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {

@@ -16,6 +16,7 @@
 #include "output/DR_Valorat.h"
 #include "output/M_Impressio.h"
 #include "output/informe/Sortida.h"
+#include "output/informe/Treballs.h"
 #include "sales/M_Tipus_Venda.h"
 #include "schema/Textos.h"
 #include "stock/M_Tipus_Estoc.h"

@@ -78,14 +78,15 @@ Ordre Llegir_Amb_Forma(const Forma& forma, Lector& lector) {
   return ordre;
 }
 
-// What the next print dialog is answered: as many copies, none at all.
+// What the next print dialog is answered: as many copies, none at all; or that the script goes on in its window.
 QStringList Llegir_Resposta_Impressio(Lector& lector) {
-  const QString que = lector.Mot("OK|Cancel|copies N");
+  const QString que = lector.Mot("OK|Cancel|window|copies N");
   if (que != QLatin1String("copies")) {
     lector.Final();
     if (que == QLatin1String("OK")) return {QStringLiteral("answer_print"), QStringLiteral("1")};
     if (que == QLatin1String("Cancel")) return {QStringLiteral("answer_print"), QStringLiteral("0")};
-    throw Error_Guio(QStringLiteral("%1 is none of OK|Cancel|copies N").arg(que));
+    if (que == QLatin1String("window")) return {QStringLiteral("answer_print"), QStringLiteral("-1")};
+    throw Error_Guio(QStringLiteral("%1 is none of OK|Cancel|window|copies N").arg(que));
   }
   const QString quantes = lector.Resta();
   if (quantes.toInt() < 1) throw Error_Guio(QStringLiteral("%1 is no number of copies").arg(quantes));

@@ -5,7 +5,7 @@
 
 #include "core/Sessio.h"
 #include "core/formularis/Pantalla_Qt.h"
-#include "output/informe/Sortida.h"
+#include "output/informe/Treballs.h"
 #include "shell/Aplicacio.h"
 #include "shell/F_Principal.h"
 #include "tests/eines/guio/Error_Guio.h"

@@ -1,0 +1,31 @@
+#include "output/informe/Aparell.h"
+
+#include <QPagedPaintDevice>
+#include <QPainter>
+
+#include "core/M_Funcions_Comuns.h"
+#include "output/informe/Informe.h"
+
+QPageLayout Full_A4(const Pagines& pagines) {
+  return {QPageSize(QPageSize::A4), pagines.apaisades ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
+}
+
+bool Pintar_A(QPagedPaintDevice& aparell, const Pagines& pagines, int des_de, int fins_a) {
+  constexpr double twips_per_polzada = 1440;
+  QPainter pintor;
+  if (!pintor.begin(&aparell)) return false;
+  const double escala = aparell.logicalDpiX() / twips_per_polzada;
+  for (int pagina = des_de; pagina <= fins_a; ++pagina) {
+    if (pagina > des_de && !aparell.newPage()) return false;
+    pintor.resetTransform();
+    pintor.scale(escala, escala);
+    Pintar_Pagina(pintor, pagines.pagines[static_cast<std::size_t>(pagina)]);
+  }
+  return pintor.end();
+}
+
+void Llancar_No_Escrit(const QString& on) {
+  const std::string text =
+      Missatge("No es pot escriure el document", "No se puede escribir el documento", "The document cannot be written");
+  throw Error_Brollador(errors::general, "Sortida", text + ": " + on.toStdString());
+}
