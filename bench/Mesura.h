@@ -37,3 +37,4 @@ std::vector<Figura> Mesurar_Llista_Albarans();
 std::vector<Figura> Mesurar_Llista_Mestres();
 std::vector<Figura> Mesurar_Inici();
 std::vector<Figura> Mesurar_Calculs();
+std::vector<Figura> Mesurar_Document_PDF();

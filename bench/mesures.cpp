@@ -1,7 +1,9 @@
 // Prints the table of measured speed: figure | ours | bare | ratio. Every pair is measured in the same run, in turns.
+// Named subjects are measured alone.
 #include <QApplication>
 #include <cstdio>
 #include <cstring>
+#include <set>
 #include <stdexcept>
 
 #include "bench/Inici_Programa.h"
@@ -9,11 +11,21 @@
 
 namespace {
 
-std::vector<Figura> Mesurar_Tot() {
+struct Subjecte {
+  const char* nom;
+  std::vector<Figura> (*mesurar)();
+};
+constexpr Subjecte subjectes[] = {
+    {"linia", Mesurar_Linia_Albara},     {"servidor", Mesurar_Servidor}, {"llista", Mesurar_Llista_Albarans},
+    {"mestres", Mesurar_Llista_Mestres}, {"inici", Mesurar_Inici},       {"calculs", Mesurar_Calculs},
+    {"pdf", Mesurar_Document_PDF}};
+
+// Without names, every subject.
+std::vector<Figura> Mesurar(const std::set<std::string>& noms) {
   std::vector<Figura> totes;
-  for (auto* subjecte : {Mesurar_Linia_Albara, Mesurar_Servidor, Mesurar_Llista_Albarans, Mesurar_Llista_Mestres,
-                         Mesurar_Inici, Mesurar_Calculs}) {
-    for (auto& figura : subjecte()) totes.push_back(std::move(figura));
+  for (const auto& [nom, mesurar] : subjectes) {
+    if (!noms.empty() && !noms.contains(nom)) continue;
+    for (auto& figura : mesurar()) totes.push_back(std::move(figura));
   }
   return totes;
 }
@@ -23,7 +35,7 @@ std::vector<Figura> Mesurar_Tot() {
 int main(int argc, char** argv) try {
   if (argc > 1 && std::strcmp(argv[1], "--login") == 0) return Arrencar_Fins_Al_Login(argc, argv);
   const QApplication aplicacio(argc, argv);
-  Imprimir_Taula(Mesurar_Tot());
+  Imprimir_Taula(Mesurar({argv + 1, argv + argc}));
   return 0;
 } catch (const std::exception& error) {
   std::fprintf(stderr, "%s\n", error.what());

@@ -1,5 +1,6 @@
 #include "output/DR_Valorat.h"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 
@@ -17,9 +18,12 @@ constexpr int pas_bloc = 260;     // twips, between the lines of the company's b
 constexpr int alcada_bloc = 255;
 
 constexpr double ample_full = 180;
+constexpr double x_valors = 26;  // of the head and the foot, beside their titles
+constexpr double ample_valors = 58;
 constexpr double ample_logo = 70;
 constexpr double ample_sota_logo = 86;  // leaves the customer in the window of the envelope
 constexpr double dalt_client = 37.9;
+constexpr double mes_avall = 75;  // of the company's block: the lines have the rest of the page
 
 constexpr Estil_Lletra nom_empresa{15, true};
 constexpr Estil_Lletra nom_empresa_bloc{10.4, true};
@@ -97,7 +101,7 @@ class Dibuixant {
   void Titol_Del_Valor(const QString& nom, const QString& caption) {
     const Control_Informe valor = fet_.controls.back();
     const int dalt = valor.lloc.y() + static_cast<int>(Base_De_Linia(valor.lletra) - Base_De_Linia(titol));
-    Posar(nom, Etiqueta, {0, dalt, Mm(22), Mm(4)}, titol, Esquerra, Encongir, caption);
+    Posar(nom, Etiqueta, {0, dalt, Mm(x_valors - 1), Mm(4)}, titol, Esquerra, Encongir, caption);
     fet_.controls.back().titol_de = valor.nom;
   }
 
@@ -122,20 +126,20 @@ class Dibuixant {
   }
 
   void Document() {
-    Posar(u"L_TXT_ALBARA"_qs, Etiqueta, Lloc(23, 37, 58, 6.1), numero);
+    Posar(u"L_TXT_ALBARA"_qs, Etiqueta, Lloc(x_valors, 37, ample_valors, 6.1), numero);
     Titol_Del_Valor(u"L_ALBARA"_qs, QString::fromUtf8(d_.titol));
-    Posar(u"L_TXT_DATA"_qs, Etiqueta, Lloc(23, 46, 58, 4.4), text);
+    Posar(u"L_TXT_DATA"_qs, Etiqueta, Lloc(x_valors, 46, ample_valors, 4.4), text);
     Titol_Del_Valor(u"L_DATA"_qs, u"Data"_qs);
-    Posar(u"L_TXT_NIF"_qs, Etiqueta, Lloc(23, 51.5, 58, 4.4), text);
+    Posar(u"L_TXT_NIF"_qs, Etiqueta, Lloc(x_valors, 51.5, ample_valors, 4.4), text);
     Titol_Del_Valor(u"L_NIF"_qs, u"NIF"_qs);
     y_ = 57;
     if (d_.codi_client) {
-      Posar(u"L_TXT_CODI_CLIENT"_qs, Etiqueta, Lloc(23, y_, 58, 4.4), text, Esquerra, Creixer);
+      Posar(u"L_TXT_CODI_CLIENT"_qs, Etiqueta, Lloc(x_valors, y_, ample_valors, 4.4), text, Esquerra, Creixer);
       Titol_Del_Valor(u"L_CODI_CLIENT"_qs, u"Codi client"_qs);
       y_ += 5.5;
     }
     y_ += 3;
-    Posar(u"L_TXT_OBSR"_qs, Etiqueta, Lloc(23, y_, 157, 4.4), text, Esquerra, Creixer);
+    Posar(u"L_TXT_OBSR"_qs, Etiqueta, Lloc(x_valors, y_, ample_full - x_valors, 4.4), text, Esquerra, Creixer);
     Titol_Del_Valor(u"L_OBSR"_qs, u"Observacions"_qs);
     y_ += 7;
   }
@@ -160,7 +164,7 @@ class Dibuixant {
 
   std::vector<Columna> Columnes() const {
     const bool descompte = !d_.Linia_De("DTE").empty();
-    const double mes = descompte ? 0 : 15;  // what a discount column takes is the description's
+    const double mes = descompte ? 0 : 13;  // what a discount column takes is the description's
     const std::string_view preu = d_.Linia_De("PREU_UNITARI");
     std::vector<Columna> columnes{
         {"DESCRIPCIO", "DESCRIPCIO", 0, 92 + mes, u"Descripció"_qs},
@@ -219,9 +223,10 @@ class Dibuixant {
 
   void Venciments() {
     y_ += 3;
-    Posar(u"L_TXT_PAGAMENT"_qs, Etiqueta, Lloc(23, y_, 157, 4.4), text, Esquerra, Creixer);
+    Posar(u"L_TXT_PAGAMENT"_qs, Etiqueta, Lloc(x_valors, y_, ample_full - x_valors, 4.4), text, Esquerra, Creixer);
     Titol_Del_Valor(u"L_VENCIMENTS"_qs, u"Venciments"_qs);
-    Posar(u"L_TXT_VENCIMENTS"_qs, Etiqueta, Lloc(23, y_ + 4.6, 157, 4.4), text, Esquerra, Creixer);
+    Posar(u"L_TXT_VENCIMENTS"_qs, Etiqueta, Lloc(x_valors, y_ + 4.6, ample_full - x_valors, 4.4), text, Esquerra,
+          Creixer);
     y_ += 9;
   }
 
@@ -229,7 +234,7 @@ class Dibuixant {
     y_ += 1.5;
     const QString nom = u"L_"_qs + Text_Qt(peu.nom);
     const bool amb_titol = peu.titol != nullptr;
-    const double x = amb_titol ? 23 : 0;
+    const double x = amb_titol ? x_valors : 0;
     Posar(nom + u"_EMP"_qs, Etiqueta, Lloc(x, y_, ample_full - x, 4), titol, Esquerra, Creixer);
     if (amb_titol) Titol_Del_Valor(nom, QString::fromUtf8(peu.titol));
     y_ += 4;
@@ -264,6 +269,7 @@ const Definicio_Informe& DR_Valorat(const Descripcio_Impressio& descripcio) {
 }
 
 void Posar_Bloc_Empresa(Informe& informe, int top) {
+  top = std::clamp(top, 0, Mm(mes_avall));
   const QSize logo = informe.Mida_Imatge(u"IMG_LOGO"_qs);
   const bool al_costat = top < logo.height();
   const bool damunt_del_client = top + 5 * pas_bloc <= Mm(dalt_client);

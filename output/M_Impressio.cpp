@@ -74,7 +74,8 @@ int Posicio_Top() {
   if (trobat == sessio.Parametres.end() || trobat->second.empty()) return 0;
   const auto twips = Numero_De_Text(trobat->second);
   if (!twips) Llancar_Error(errors::tipus, "P_Posicio_Top", trobat->second);
-  return static_cast<int>(*twips);
+  constexpr double prou_lluny = 1e6;  // farther than any page
+  return static_cast<int>(std::clamp(*twips, -prou_lluny, prou_lluny));
 }
 
 class Ompliment {
@@ -225,11 +226,10 @@ std::string SQL_Impressio(const Descripcio_Impressio& informe) {
 }
 
 void Omplir_Taula_Impressio(const Descripcio_Impressio& informe, const Valor& numero, const std::string& empresa) {
-  Buidar_Taula_Impressio(informe);
   Recordset linies(SQL_Linies_A_Imprimir(informe, numero, empresa), sessio.Connexio_Comuna);
-  if (linies.RecordCount() == 0) return;
-  // One write to the disk for all the lines.
+  // One write to the disk for all of it.
   Transaccio transaccio(Connexio_Impressio());
+  Buidar_Taula_Impressio(informe);
   Copiar_Linies(informe, linies);
   transaccio.Confirmar();
 }

@@ -1,6 +1,7 @@
 #include "output/informe/Lletra.h"
 
 #include <QFontMetricsF>
+#include <QHash>
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
@@ -27,13 +28,19 @@ QString Retallar(const QString& text, const QFont& lletra, double amplada) {
 
 }  // namespace
 
+// Kept: looking one up among the computer's letters takes longer than measuring a text with it.
 QFont Lletra(const Estil_Lletra& estil, double escala) {
+  static QHash<int, QFont> fetes;
+  const int alcada = static_cast<int>(std::lround(estil.punts * twips_per_punt * escala));
+  const int clau = estil.negreta ? -alcada : alcada;
+  const auto feta = fetes.constFind(clau);
+  if (feta != fetes.constEnd()) return *feta;
   QFont lletra(
       QStringList{QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("Sans Serif")});
-  lletra.setPixelSize(static_cast<int>(std::lround(estil.punts * twips_per_punt * escala)));
+  lletra.setPixelSize(alcada);
   lletra.setBold(estil.negreta);
   lletra.setHintingPreference(QFont::PreferNoHinting);
-  return lletra;
+  return *fetes.insert(clau, lletra);
 }
 
 QColor Color(Tinta tinta) {
@@ -66,14 +73,16 @@ Linia_Encongida Encongir(const QString& text, const Estil_Lletra& estil, double 
   const QString linia = Sense_Salts(text);
   const QFont sencera = Lletra(estil);
   const double natural = Amplada(linia, sencera);
-  if (natural <= amplada) return {linia, sencera};
+  if (natural <= amplada) return {linia, sencera, natural};
   const QFont petita = Lletra(estil, std::max(minim, 0.995 * amplada / natural));  // a size is a whole number of twips
-  return {Retallar(linia, petita, amplada), petita};
+  const QString tallada = Retallar(linia, petita, amplada);
+  return {tallada, petita, Amplada(tallada, petita)};
 }
 
 QStringList Partir_En_Linies(const QString& text, const Estil_Lletra& estil, double amplada, int maxim) {
   const QFont lletra = Lletra(estil);
   const QString sencer = Amb_Salts(text);
+  if (!sencer.contains(QChar::LineSeparator) && Amplada(sencer, lletra) <= amplada) return {sencer};
   QTextLayout disposicio(sencer, lletra);
   disposicio.setTextOption([] {
     QTextOption opcio;

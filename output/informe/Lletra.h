@@ -23,6 +23,7 @@ double Amplada(const QString& text, const QFont& lletra);
 struct Linia_Encongida {
   QString text;
   QFont lletra;
+  double amplada;  // what the text takes
 };
 // One line that fits: smaller, down to `minim` of its size, then cut with an ellipsis. Line breaks become blanks.
 Linia_Encongida Encongir(const QString& text, const Estil_Lletra& estil, double amplada, double minim);

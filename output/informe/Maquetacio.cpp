@@ -14,6 +14,7 @@ struct Camp {
   const Estat_Control* estat;
   QStringList linies;
   QFont lletra;
+  std::optional<double> amplada = {};  // of the one line, when it was measured
 };
 using Fila = std::vector<Camp>;
 
@@ -99,11 +100,14 @@ class Maquetador {
     }
   }
 
-  void Posar_Linia(const Estat_Control& estat, const QString& text, const QFont& lletra, QPointF lloc) {
+  void Posar_Linia(const Estat_Control& estat, const QString& text, const QFont& lletra, QPointF lloc,
+                   std::optional<double> amplada = {}) {
     if (text.trimmed().isEmpty()) return;
     const Control_Informe& c = *estat.control;
-    const double sobra = estat.lloc.width() - Amplada(text, lletra);
-    if (c.costat != Costat::Esquerra) lloc.rx() += c.costat == Costat::Dreta ? sobra : sobra / 2;
+    if (c.costat != Costat::Esquerra) {
+      const double sobra = estat.lloc.width() - (amplada ? *amplada : Amplada(text, lletra));
+      lloc.rx() += c.costat == Costat::Dreta ? sobra : sobra / 2;
+    }
     lloc.ry() += Base_De_Linia(c.lletra);
     pagines_.back().emplace_back(Text_Posat{lloc, text, lletra, Color(c.lletra.tinta)});
   }
@@ -128,7 +132,7 @@ class Maquetador {
         fila.push_back({estat, Partir_En_Linies(text, c.lletra, estat->lloc.width(), sense_maxim), Lletra(c.lletra)});
       } else {
         const auto linia = Linia_De(text, *estat);
-        fila.push_back({estat, {linia.text}, linia.lletra});
+        fila.push_back({estat, {linia.text}, linia.lletra, linia.amplada});
       }
     }
     return fila;
@@ -160,7 +164,7 @@ class Maquetador {
     while (y_ + Alcada_De_Fila(fila) + peu > Fons()) {
       const double una_linia = y_ + Detall();
       const double totes_menys_dues = y_ + Alcada_De_Fila(fila) - Detall();
-      if (!Posar_El_Que_Hi_Cap(fila, std::clamp(totes_menys_dues, una_linia, Fons()))) return;
+      if (!Posar_El_Que_Hi_Cap(fila, std::min(std::max(totes_menys_dues, una_linia), Fons()))) return;
       Nova_Pagina();
     }
     Posar_Partida(std::move(fila), Fons());
@@ -170,8 +174,9 @@ class Maquetador {
     while (Posar_El_Que_Hi_Cap(fila, fons)) Nova_Pagina();
   }
 
-  // True when lines of the row are left for another page.
+  // True when lines of the row are left for another page. A page with no room at all takes one line, so that rows end.
   bool Posar_El_Que_Hi_Cap(Fila& fila, double fons) {
+    if (y_ <= Sostre()) fons = std::max(fons, y_ + Detall());
     double baixat = 0;
     bool en_queden = false;
     for (Camp& camp : fila) {
@@ -179,7 +184,7 @@ class Maquetador {
       const QPointF lloc(paper::marge + camp.estat->lloc.x(), camp.estat->lloc.y());
       double y = y_;
       for (; !camp.linies.isEmpty() && y + Detall() <= fons; y += pas) {
-        Posar_Linia(*camp.estat, camp.linies.takeFirst(), camp.lletra, lloc + QPointF(0, y));
+        Posar_Linia(*camp.estat, camp.linies.takeFirst(), camp.lletra, lloc + QPointF(0, y), camp.amplada);
       }
       baixat = std::max(baixat, y - pas - y_);
       en_queden = en_queden || !camp.linies.isEmpty();

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <set>
 
-#include "output/M_Informes.h"
+#include "output/DR_Valorat.h"
 #include "sales/M_Tipus_Venda.h"
 #include "tests/pantalles/Documents_De_Paper.h"
 
@@ -119,7 +119,7 @@ class Geometria_Pagines : public Documents_De_Paper, public testing::WithParamIn
     Posar_Linies_Variades(Tipus(), linies);
     Posar_Peu(Tipus(), 123456.78, 21, pitjor ? 5.2 : 0);
     if (pitjor) {
-      for (const double porc : {10.0, 4.0, 0.0}) Posar_Peu(Tipus(), -87654.32, porc, 1.4);
+      for (const double porc : {10.0, 4.0, 0.0}) Posar_Peu(Tipus(), porc == 0 ? -7654.32 : 87654.32, porc, 1.4);
     }
     return Pagines_De(Tipus());
   }
@@ -208,5 +208,26 @@ TEST_F(Documents_De_Paper, WithoutPricesNothingIsLeftOfTheirColumns) {
       }
     }
     EXPECT_NE(Cercar(peces, u"121,00"_qs), nullptr) << "the foot is printed all the same";
+  }
+}
+
+// A title is never made smaller to fit, in any language.
+TEST_F(Documents_De_Paper, TheTitlesFitInEveryLanguage) {
+  for (const auto& descripcio : Informes_De_Documents()) {
+    Posar_Document(descripcio.Tipus());
+    Posar_Linies_Variades(descripcio.Tipus(), 5);
+    Posar_Peu(descripcio.Tipus(), 100);
+    for (std::int16_t idioma = 0; idioma < 3; ++idioma) {
+      sessio.Idioma_Actual = idioma;
+      Informe informe(DR_Valorat(descripcio));
+      informe.Traduir();
+      for (const auto& estat : informe.Controls()) {
+        if (estat.text.isEmpty()) continue;
+        EXPECT_LE(Amplada(estat.text, Lletra(estat.control->lletra)), estat.lloc.width())
+            << descripcio.informe << " " << idioma << " " << estat.text.toStdString();
+      }
+      const Pagines fetes = Pagines_De(descripcio.Tipus());
+      for (const auto& pagina : fetes.pagines) Exigir_Que_Res_No_Se_Solapi(Peces_De(pagina));
+    }
   }
 }

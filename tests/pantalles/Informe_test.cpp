@@ -237,6 +237,17 @@ TEST_F(Informe_Prova, AHeaderNeverTakesTheWholePage) {
   EXPECT_TRUE(Paraules(pagines.back()).contains(u"Peu"_qs));
 }
 
+TEST_F(Informe_Prova, RowsEndAlsoOnPagesWithoutRoomForThem) {
+  Definicio_Informe definicio = Informe_De_Prova();
+  definicio.alcades[0] = paper::alcada;
+  Posar_Files(3);
+  Recordset rs("SELECT * FROM ALBARALIN_VALORAT_IMPR ORDER BY LIN_AL", sessio.Connexio_Local);
+  const auto pagines = Informe(definicio).Maquetar(rs);
+  ASSERT_GE(pagines.size(), 3U);
+  EXPECT_TRUE(Paraules(pagines[0]).contains(u"fila 1"_qs));
+  EXPECT_TRUE(Paraules(pagines[2]).contains(u"fila 3"_qs));
+}
+
 TEST_F(Informe_Prova, ASumIsWhatItsColumnComesToOverAllThePages) {
   for (int i = 0; i < 40; ++i) Posar_Fila("fila", 0.1);
   informe.Data_Format(u"SUMA_TOTAL_IMPORT_AL"_qs, "#,##0.00;; ");

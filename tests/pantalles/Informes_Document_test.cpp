@@ -1,4 +1,6 @@
 // The five valued documents on paper, read back from their PDF files.
+#include <QImageReader>
+#include <QImageWriter>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -20,6 +22,14 @@ class Informes_Document : public Documents_De_Paper {
     proces.start(u"pdftotext"_qs, {u"-layout"_qs, fitxer, u"-"_qs});
     EXPECT_TRUE(proces.waitForFinished());
     return QString::fromUtf8(proces.readAllStandardOutput()).replace(QRegularExpression(u"[ \u00A0]+"_qs), u" "_qs);
+  }
+  static std::vector<Imatge_Posada> Logos_De(const Tipus_Document& tipus) {
+    std::vector<Imatge_Posada> logos;
+    const Pagines fetes = Pagines_De(tipus);
+    for (const auto& element : fetes.pagines.front()) {
+      if (const auto* imatge = std::get_if<Imatge_Posada>(&element)) logos.push_back(*imatge);
+    }
+    return logos;
   }
   QString Document_Complet(const Tipus_Document& tipus, int linies = 1) {
     Posar_Document(tipus);
@@ -115,22 +125,82 @@ TEST_F(Informes_Document, AFifthFootRowFailsInEveryKind) {
   }
 }
 
-TEST_F(Informes_Document, ALogoIsPrintedInProportionAndAMissingOneIsNot) {
-  const QString fitxer = QString::fromStdString(installacio.Dir_Dades()) + u"/logo.png"_qs;
+// As large as its place allows, never out of shape; the file may hold more dots than a page has.
+TEST_F(Informes_Document, ALogoOfAnySizeAndFormatKeepsItsShape) {
+  const QString fitxer = QString::fromStdString(installacio.Dir_Dades()) + u"/logo"_qs;
   Executar("UPDATE EMPRESES SET IMATGE_EMP = " + Text_SQL(fitxer.toStdString()));
-  Document_Complet(tipus_factura);
-  QImage logo(900, 300, QImage::Format_ARGB32);
-  logo.fill(QColor(20, 90, 160));
-  ASSERT_TRUE(logo.save(fitxer));
-  Informe informe(DR_Valorat(Informe_De(tipus_factura)));
-  informe.Picture(u"IMG_LOGO"_qs, logo);
-  const QSize mida = informe.Mida_Imatge(u"IMG_LOGO"_qs);
-  EXPECT_NEAR(mida.width(), 3 * mida.height(), 3);
-  Conte(Imprimir_I_Llegir(tipus_factura), {"Ferreteria Montseny, S.L."});
-  QProcess proces;
-  proces.start(u"pdfimages"_qs, {u"-list"_qs, Fitxer_PDF(tipus_factura, 12)});
-  EXPECT_TRUE(proces.waitForFinished());
-  EXPECT_TRUE(QString::fromUtf8(proces.readAllStandardOutput()).contains(QRegularExpression(u" image +900 +300 "_qs)));
+  int llegits = 0;
+  for (const auto* tipus : {&tipus_factura, &tipus_pressupost}) {
+    Posar_Document(*tipus);
+    Posar_Linia(*tipus, "Cargol", 1, 10);
+    for (const QByteArray& format : QImageWriter::supportedImageFormats()) {
+      if (!QImageReader::supportedImageFormats().contains(format)) continue;
+      for (const QSize mida : {QSize(1, 1), QSize(40, 30), QSize(250, 10), QSize(10, 250), QSize(3000, 1000)}) {
+        QImage imatge(mida, QImage::Format_RGB32);
+        imatge.fill(QColor(20, 90, 160));
+        if (!QImageWriter(fitxer, format).write(imatge)) continue;  // an icon has its largest size
+        SCOPED_TRACE(format.toStdString() + " " + std::to_string(mida.width()) + "x" + std::to_string(mida.height()));
+        const auto logos = Logos_De(*tipus);
+        ASSERT_EQ(logos.size(), 1U);
+        const QSizeF posada = logos[0].lloc.size();
+        const QSizeF esperada = QSizeF(mida).scaled(QSizeF(70, 25) * 1440 / 25.4, Qt::KeepAspectRatio);
+        EXPECT_NEAR(posada.width(), esperada.width(), esperada.width() * 0.06 + 12);
+        EXPECT_NEAR(posada.height(), esperada.height(), esperada.height() * 0.06 + 12);
+        EXPECT_LE(logos[0].imatge.width(), 1700);
+        EXPECT_LE(logos[0].imatge.height(), 600);
+        ++llegits;
+      }
+    }
+  }
+  EXPECT_GT(llegits, 20);
+}
+
+TEST_F(Informes_Document, WithoutItsFileThereIsNoLogoAndNothingIsSaid) {
+  const QString no_es_imatge = QString::fromStdString(sessio.Fitxer_Ini);
+  for (const auto& informe : Informes_De_Documents()) {
+    Posar_Document(informe.Tipus());
+    Posar_Linia(informe.Tipus(), "Cargol", 1, 10);
+    for (const QString& fitxer : {QString(), u"/no/hi/es/logo.png"_qs, u"/tmp"_qs, no_es_imatge}) {
+      Executar("UPDATE EMPRESES SET IMATGE_EMP = " + Text_SQL(fitxer.toStdString()));
+      EXPECT_TRUE(Logos_De(informe.Tipus()).empty()) << informe.informe << fitxer.toStdString();
+    }
+  }
+  EXPECT_TRUE(installacio.pantalla.caixes.empty());
+}
+
+TEST_F(Informes_Document, ReportsWithoutALogoPrintNoneAlthoughTheCompanyHasOne) {
+  Allargar_Noms();
+  for (const auto& informe : Informes_De_Documents()) {
+    Posar_Document(informe.Tipus());
+    Posar_Linia(informe.Tipus(), "Cargol", 1, 10);
+    EXPECT_EQ(Logos_De(informe.Tipus()).size(), informe.logo ? 1U : 0U) << informe.informe;
+  }
+}
+
+// Wherever a parameter sends the block, the lines and the foot are printed.
+TEST_F(Informes_Document, NoPositionOfTheBlockTakesTheRoomOfTheLines) {
+  Allargar_Noms();
+  for (const auto* tipus : {&tipus_factura, &tipus_pressupost}) {
+    Document_Complet(*tipus, 60);
+    for (const char* top : {"-500", "0", "1417", "3000", "5000", "12000", "999999999999"}) {
+      sessio.Parametres["P_Posicio_Top"] = top;
+      const Pagines fetes = Pagines_De(*tipus);
+      EXPECT_LE(fetes.pagines.size(), 6U) << top;
+      QStringList paraules;
+      for (const auto& pagina : fetes.pagines) {
+        for (const auto& element : pagina) {
+          const auto* text = std::get_if<Text_Posat>(&element);
+          if (text == nullptr) continue;
+          paraules << text->text;
+          EXPECT_LT(text->base.y(), paper::alcada - paper::marge + 1) << top << " " << text->text.toStdString();
+        }
+      }
+      EXPECT_EQ(paraules.count(u"Tub de coure"_qs), 51) << top;
+      EXPECT_EQ(paraules.count(u"Total €"_qs), 1) << top;
+      Deixar_Per_Mirar(
+          fetes, u"top-%1-%2"_qs.arg(QString::fromLatin1(top), QString::fromStdString(std::string(tipus->formulari))));
+    }
+  }
 }
 
 // Where the company's block stands, and what it does to the rest of the head.
