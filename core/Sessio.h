@@ -54,6 +54,9 @@ struct Sessio {
   Recordset* Recordset_Cerca = nullptr;     // its recordset
   std::set<Recordset*> Recordsets_Informe;  // of pickers and reports that outlive the form that opened them
   std::string Pag_Document;                 // letter of the document whose payments F_PagDoc shows: A, P or F
+  std::int32_t Pag_Numero = 0;              // its number
+  std::string Pag_Client;                   // who pays
+  double Pag_Total = 0;                     // euros, as the document stood when its payments were opened
   std::int32_t Posicio_Guardada = 0;
   bool Nomes_Pendents = false;      // the last search button asked for pending documents only
   bool Error_Mostrat = false;       // the failure under way has been shown

@@ -32,6 +32,11 @@ double Part_Sencera(const Valor& ultim) {
   return std::trunc(Numero_De_Text(text).value_or(0));
 }
 
+std::string SQL_Ultima_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  return "SELECT MAX(" + tipus.lin.Columna("LIN") + ") AS MAXIM FROM " + std::string(tipus.lin.nom) +
+         Condicio_Document(tipus, tipus.lin, numero, empresa);
+}
+
 std::string SQL_Maxim(const Tipus_Document& tipus, const std::string& empresa) {
   const std::string numero = tipus.cap.Columna("NUMALB");
   return "SELECT MAX(" + numero + ") AS MAXIM FROM " + std::string(tipus.cap.nom) + " WHERE " +
@@ -143,9 +148,12 @@ Valor Seguent_Numero(const Tipus_Document& tipus, const std::string& empresa) {
 }
 
 std::int16_t Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
-  const Valor ultima = Llegir_Valor("SELECT MAX(" + tipus.lin.Columna("LIN") + ") AS MAXIM FROM " +
-                                    std::string(tipus.lin.nom) + Condicio_Document(tipus, tipus.lin, numero, empresa));
+  const Valor ultima = Llegir_Valor(SQL_Ultima_Linia(tipus, numero, empresa));
   return static_cast<std::int16_t>(Seguent(ultima, std::numeric_limits<std::int16_t>::max()));
+}
+
+void Demanar_Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  sessio.Connexio_Comuna.Demanar(SQL_Ultima_Linia(tipus, numero, empresa));
 }
 
 bool Existeix_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {

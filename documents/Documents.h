@@ -54,6 +54,12 @@ struct Apunt_Estoc {
   std::function<void()> fer;
 };
 
+// What a new line does to the documents that its own is linked with.
+struct Apunt_Linia {
+  std::function<void()> abans;    // right before the row is written, when nothing can be asked any more
+  std::function<void()> despres;  // when the row, the total and the stock are
+};
+
 // What a kind does of its own around its lines. A step that is null is not taken.
 struct Passos_Document {
   // The customer cannot change any more.
@@ -63,15 +69,14 @@ struct Passos_Document {
   // No more lines. Null: its state box tells.
   bool (*tancat)(const Valor& numero, const std::string& empresa) = nullptr;
 
-  // A new line, in this order. The first one may refuse it, by raising; the second asks together for what the others
-  // will read (Connexio::Demanar).
-  void (*abans_d_afegir)(const Capcalera_Oberta& cap, const Linia_Entrada& linia) = nullptr;
+  // A new line, in this order. The first one asks together for what the others will read (Connexio::Demanar); the
+  // second may refuse the line, by raising, and writes nothing yet.
   void (*demanar)() = nullptr;
+  Apunt_Linia (*apunt)(const Capcalera_Oberta& cap, const Linia_Entrada& linia) = nullptr;
   // signe +1 when a line comes into being, -1 when it goes away.
   Apunt_Estoc (*estoc)(const Capcalera_Oberta& cap, const std::string& article, double signe, double unitats) = nullptr;
   // The columns that only this kind has, into the row that is about to be written.
   void (*columnes)(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& fila) = nullptr;
-  void (*despres_d_afegir)(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Document_Obert& obert) = nullptr;
 
   // A line deleted. The first one may refuse it, after a box; `columna_lligada` is the role word of a column: a line
   // where it is not 0 stays, in silence.
@@ -140,6 +145,8 @@ Valor Crear_Capcalera(const Tipus_Document& tipus);
 Valor Seguent_Numero(const Tipus_Document& tipus, const std::string& empresa);
 // Raises 6 after line 32767.
 std::int16_t Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// It will be asked in this transaction (Connexio::Demanar).
+void Demanar_Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 // Raises Document_Inexistent, after its box, when there is no such document.
 void Exigir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 bool Existeix_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);

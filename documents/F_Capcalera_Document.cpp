@@ -111,11 +111,18 @@ bool Capcalera_Document::Esta_Marcada(const char* paper) const {
 
 void Capcalera_Document::Marcar(const char* paper, bool marcada) {
   auto* casella = qobject_cast<QCheckBox*>(Control(QStringLiteral("CHK_") + QLatin1String(paper)));
-  if (casella != nullptr) casella->setChecked(marcada);
+  if (casella == nullptr) return;
+  Recordar_Abans();
+  casella->setChecked(marcada);
 }
 
 void Capcalera_Document::Posar_Import(double euros) {
   if (auto* total = qobject_cast<Camp_Numeric*>(Control(QStringLiteral("TXT_IMPORT")))) total->Numero(euros);
+}
+
+double Capcalera_Document::Import() const {
+  const auto* total = qobject_cast<Camp_Numeric*>(Control(QStringLiteral("TXT_IMPORT")));
+  return total == nullptr ? 0 : total->Numero();
 }
 
 bool Capcalera_Document::Te_Canvis() const {
@@ -157,6 +164,8 @@ void Capcalera_Document::Posar_Canvis(const Valor& numero) {
 }
 
 void Capcalera_Document::Desar(const Valor& numero) {
+  Desfer_Si_Cal();
+  Recordar_Abans();
   try {
     Posar_Canvis(numero);
     cap_.Update();
@@ -174,4 +183,29 @@ void Capcalera_Document::Recuperar() {
   cap_.Reopen(SQL_Capcalera(tipus_, numero_, sessio.Empresa_Actual));
   Exigir_Document(tipus_, numero_, sessio.Empresa_Actual);
   Mostrar();
+}
+
+void Capcalera_Document::Recordar_Abans() {
+  const auto transaccio = Transaccio::Oberta(sessio.Connexio_Comuna);
+  if (transaccio == nullptr || transaccio == abans_.transaccio) return;
+  abans_ = {.transaccio = transaccio, .camps = camps_, .qui = qui_mostrat_, .numero = numero_, .caselles = {}};
+  for (const Lligam& camp : camps_) {
+    if (auto* casella = qobject_cast<QCheckBox*>(camp.Control()))
+      abans_.caselles.emplace_back(casella, casella->isChecked());
+  }
+}
+
+void Capcalera_Document::Desfer_Si_Cal() {
+  if (abans_.transaccio == nullptr || abans_.transaccio->fi != Transaccio::Fi::Desfeta) return;
+  const Abans abans = std::exchange(abans_, {});
+  camps_ = abans.camps;
+  qui_mostrat_ = abans.qui;
+  numero_ = abans.numero;
+  for (const auto& [casella, marcada] : abans.caselles) casella->setChecked(marcada);
+  Recuperar();
+}
+
+void Capcalera_Document::Cancellar() {
+  cap_.CancelUpdate();
+  Desfer_Si_Cal();
 }

@@ -3,12 +3,16 @@
 // code and a name, chosen together in a combo. Only what the user or a rule changed is written.
 #pragma once
 
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "core/controls/Controls.h"
 #include "core/controls/Lligam.h"
 #include "core/formularis/Formulari.h"
 #include "documents/Documents.h"
+
+class QCheckBox;
 
 struct Caselles_D_Impost {
   bool iva = false;
@@ -41,14 +45,16 @@ class Capcalera_Document {
   void Desar(const Valor& numero);
   // Something that was typed or chosen waits to be saved.
   bool Te_Canvis() const;
-  // Gives up what is pending.
-  void Cancellar() { cap_.CancelUpdate(); }
+  // Gives up what is pending. What was saved in a transaction that is undone is to be saved again, and what rules put
+  // there meanwhile is as it was.
+  void Cancellar();
 
   const Valor& Numero() const { return numero_; }  // the one that the database has
   Capcalera_Oberta Oberta() const;
   bool Esta_Marcada(const char* paper) const;  // CHK_x; false when the form has none
   void Marcar(const char* paper, bool marcada);
   void Posar_Import(double euros);
+  double Import() const;                      // euros, as it is shown
   std::string Text(const char* paper) const;  // TXT_x
   // The choice in the combo: its code and its boxes.
   void Canviar_Qui();
@@ -69,6 +75,8 @@ class Capcalera_Document {
   bool Qui_Ha_Canviat() const;
   void Posar_Canvis(const Valor& numero);
   void Recuperar();
+  void Recordar_Abans();
+  void Desfer_Si_Cal();
   std::string Columna(const char* paper) const { return tipus_.cap.Columna(paper); }
 
   const Formulari& formulari_;
@@ -81,4 +89,14 @@ class Capcalera_Document {
   QLineEdit* camp_numero_;
   Combo_Codi* combo_ = nullptr;
   Qui qui_mostrat_;
+
+  // The head before a transaction that may still be undone.
+  struct Abans {
+    std::shared_ptr<const Transaccio::Estat> transaccio;
+    std::vector<Lligam> camps;
+    Qui qui;
+    Valor numero;
+    std::vector<std::pair<QCheckBox*, bool>> caselles;
+  };
+  Abans abans_;
 };

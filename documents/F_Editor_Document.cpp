@@ -110,6 +110,10 @@ void Editor_Document::Connectar_Botons() {
   boto("B_PRINT_NO_VALORAT", Dibuix::Imprimir, [this] { Imprimir(";NO_VALORAT"); });
   for (const auto& [nom, formulari] : descripcio_.botons)
     Boto_De_Pantalla(QString::fromUtf16(nom), QString::fromUtf16(formulari));
+  if (descripcio_.sense_pagaments != nullptr) {
+    Boto_De_Pantalla(QStringLiteral("B_Pagaments"), QStringLiteral("F_PAGDOC"));
+    connect(Boto("B_Pagaments"), &QPushButton::clicked, this, [this] { Guardar_Event([this] { Obrir_Pagaments(); }); });
+  }
   auto* sortir = Control_De_Nom<QPushButton>(QStringLiteral("B_Exit"));
   Dibuixar(sortir, Dibuix::Sortir);
   connect(sortir, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
@@ -297,7 +301,10 @@ bool Editor_Document::Desar_Linia() {
                 Afegir_Linia(Tipus(), cap_->Oberta(), entrada_->Linia(), linies_, *this);
                 bloquejat_ = Bloquejat();
               },
-              [this] { linies_.Requery(); });
+              [this] {
+                cap_->Cancellar();
+                linies_.Requery();
+              });
         } catch (const Error_Brollador& error) {
           passatger = error.Es_Passatger();
           throw;
@@ -372,6 +379,19 @@ void Editor_Document::Imprimir(const char* proposit) {
   if (Dret() != "C") Desar_Capcalera();
   sessio.Crida_Document = std::string(Tipus().formulari) + proposit;
   descripcio_.imprimir(Tipus(), Numero(), sessio.Empresa_Actual, impressio_per_dialeg);
+}
+
+// The payments screen asks the session for the document, and never this form.
+void Editor_Document::Obrir_Pagaments() {
+  if (!cap_->Esta_Marcada("PAGAMENT")) {
+    sessio.pantalla->Caixa(descripcio_.sense_pagaments, estil::critic);
+    return;
+  }
+  sessio.Pag_Document = Tipus().lletra_pagament;
+  sessio.Pag_Numero = static_cast<std::int32_t>(Numero().Enter());
+  sessio.Pag_Client = cap_->Text(descripcio_.qui->codi);
+  sessio.Pag_Total = cap_->Import();
+  Obrir(QStringLiteral("F_PAGDOC"));
 }
 
 // ---- Closing ----------------------------------------------------------------------------------------------------

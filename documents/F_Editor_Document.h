@@ -39,6 +39,8 @@ struct Descripcio_Editor {
   // Prints it: sessio.Crida_Document tells whether with prices.
   void (*imprimir)(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) = nullptr;
   std::vector<Boto_D_Editor> botons = {};
+  const char* sense_pagaments =
+      nullptr;  // what B_Pagaments says of a document that may have none; null: no such button
 };
 
 class Editor_Document : public Formulari, public Document_Obert {
@@ -95,6 +97,7 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Desplacar_Linia(bool avall);
   void Valorar();
   void Imprimir(const char* proposit);
+  void Obrir_Pagaments();
   void Requerir_Linies();
 
   const Descripcio_Editor& descripcio_;

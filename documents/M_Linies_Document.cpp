@@ -22,12 +22,12 @@ Apunt_Estoc Preparar_Estoc(const Tipus_Document& tipus, const Capcalera_Oberta& 
 
 // ---- Writing
 
-// The number of the new line; what else the line needs to know is asked for at once.
-std::int16_t Comencar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
+// What the line needs to know, asked for at once.
+void Demanar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
   if (cap.iva) Demanar_IVA(linia.iva_article);
   Demanar_Article(linia.article);
+  Demanar_Seguent_Linia(tipus, cap.numero, cap.empresa);
   if (const auto demanar = Passos_De(tipus).demanar) demanar();
-  return Seguent_Linia(tipus, cap.numero, cap.empresa);
 }
 
 // A line is saved from its price; where a kind is valued at cost, its amounts are not.
@@ -114,15 +114,17 @@ void Recalcular_Linia(const Taula_Document& lin, Recordset& rs, const Taxes_Lini
 void Afegir_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia,
                   Recordset& linies, Document_Obert& obert) {
   const Passos_Document& passos = Passos_De(tipus);
-  if (passos.abans_d_afegir != nullptr) passos.abans_d_afegir(cap, linia);
-  const std::int16_t numero = Comencar_Linia(tipus, cap, linia);
+  Demanar_Linia(tipus, cap, linia);
+  const Apunt_Linia apunt = passos.apunt == nullptr ? Apunt_Linia() : passos.apunt(cap, linia);
+  const std::int16_t numero = Seguent_Linia(tipus, cap.numero, cap.empresa);
   const Apunt_Estoc estoc = Preparar_Estoc(tipus, cap, linia.article, +1, linia.unitats);
+  if (apunt.abans) apunt.abans();
   Escriure_Linia(tipus, cap, linia, numero, linies);
   if (estoc.demanar) estoc.demanar();
   if (passos.demanar_bloquejat != nullptr) passos.demanar_bloquejat(cap.numero, cap.empresa);
   Calcular_Totals(tipus, cap.numero, cap.empresa, obert);
   Apuntar(tipus, estoc);
-  if (passos.despres_d_afegir != nullptr) passos.despres_d_afegir(cap, linia, obert);
+  if (apunt.despres) apunt.despres();
 }
 
 // The line goes first: nothing is posted for one that another terminal deletes meanwhile. Then what it is tied to, and

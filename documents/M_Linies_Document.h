@@ -5,9 +5,9 @@
 
 #include "documents/Documents.h"
 
-// Writes a line on the form's line recordset: row, foot, stock. Call it inside a transaction that has not written yet:
-// a warning may be shown before it writes. Raises 1010 when the kind refuses it or the stock could not be posted
-// (already shown), 6, 13 or the engine's.
+// Writes a line on the form's line recordset: row, foot, stock, and what the kind does to linked documents. Call it
+// inside a transaction that has not written yet: a warning may be shown before it writes. Raises 1010 when the kind
+// refuses it or the stock could not be posted (already shown), 6, 13 or the engine's.
 void Afegir_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia,
                   Recordset& linies, Document_Obert& obert);
 

@@ -18,12 +18,6 @@ void Esborrar_Codi(const Recordset& fila) {
   esborrar(fila[0].Text());
 }
 
-constexpr Desplegable_Referencia formes_de_pagament = {
-    .camp = "FP_VEN",
-    .sentencia = "SELECT ID_FP, DESCRIPCIO_FP FROM FORMES_PAGAMENT ORDER BY DESCRIPCIO_FP",
-    .titols_codi = {"Codi", "Código", "Code"},
-    .titols_text = {"Forma de Pagament", "Forma de Pago", "Method of payment"}};
-
 const std::vector<Descripcio_Referencia>& Referencies() {
   static const std::vector<Descripcio_Referencia> referencies = {
       {.formulari = u"F_MarquesM",
@@ -79,7 +73,7 @@ const std::vector<Descripcio_Referencia>& Referencies() {
        .boto_esborrar = u"B_EsborrarVenciment",
        .esborrar = Esborrar_Codi<Esborrar_Venciment>,
        .cerca_amb_la_dreta = true,
-       .desplegables = {formes_de_pagament}},
+       .desplegables = {Desplegable_Formes_De_Pagament("FP_VEN")}},
       {.formulari = u"F_FormesPagamentM",
        .titol = u"Formes de Pagament",
        .graella = u"G_FormesPagamentM",
@@ -107,6 +101,13 @@ const std::vector<Descripcio_Referencia>& Referencies() {
 }
 
 }  // namespace
+
+Desplegable_Referencia Desplegable_Formes_De_Pagament(const char* camp) {
+  return {.camp = camp,
+          .sentencia = "SELECT ID_FP, DESCRIPCIO_FP FROM FORMES_PAGAMENT ORDER BY DESCRIPCIO_FP",
+          .titols_codi = {"Codi", "Código", "Code"},
+          .titols_text = {"Forma de Pagament", "Forma de Pago", "Method of payment"}};
+}
 
 void Registrar_Formularis_Referencia() {
   for (const Descripcio_Referencia& descripcio : Referencies())

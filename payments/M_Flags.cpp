@@ -1,9 +1,10 @@
 #include "payments/M_Flags.h"
 
 #include <functional>
-#include <optional>
+#include <map>
 #include <set>
 #include <span>
+#include <utility>
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Transaccio.h"
@@ -24,15 +25,6 @@ std::string Condicio(const Nivell_Pagable& nivell, std::int64_t numero) {
          Nom_Columna(nivell, "EMPRESA") + " = " + Text_SQL(sessio.Empresa_Actual);
 }
 
-// The form of that kind, when it is loaded, takes the flag on the document that it shows; its number, or nothing.
-std::optional<std::int64_t> Posar_Al_Formulari(const Document_Pagable& document, bool flag) {
-  Document_Obert* obert = sessio.pantalla->Document(Nivell_De(document.lletra).formulari);
-  if (obert == nullptr) return {};
-  obert->Posar_Pagament(flag);
-  obert->Desar_Capcalera();
-  return obert->Numero_Document().Enter();
-}
-
 void Posar_A_La_Capcalera(const Document_Pagable& document, bool flag) {
   const Nivell_Pagable& nivell = Nivell_De(document.lletra);
   sessio.Connexio_Comuna.Execute_Despres("UPDATE " + std::string(nivell.taula) + " SET " +
@@ -40,13 +32,40 @@ void Posar_A_La_Capcalera(const Document_Pagable& document, bool flag) {
                                          Condicio(nivell, document.numero));
 }
 
-void Escriure_Flag(Cadena& cadena, const Document_Pagable& document, bool flag) {
-  if (const auto mostrat = Posar_Al_Formulari(document, flag)) {
-    cadena.Apuntar_Flag({document.lletra, *mostrat}, flag);
-  } else if (cadena.Apuntar_Flag(document, flag)) {
-    Posar_A_La_Capcalera(document, flag);
-  }
+Document_Obert* Formulari_De(const Document_Pagable& document) {
+  return sessio.pantalla->Document(Nivell_De(document.lletra).formulari);
 }
+
+// Flags of a chain, written through the form of that kind when it is loaded, on the document that it shows. A form
+// saves its head once, at the end.
+class Escriptor {
+ public:
+  explicit Escriptor(Cadena& cadena) : cadena_(cadena) {}
+
+  void Posar(const Document_Pagable& document, bool flag) {
+    Document_Obert* obert = Formulari_De(document);
+    if (obert == nullptr) {
+      if (cadena_.Apuntar_Flag(document, flag)) Posar_A_La_Capcalera(document, flag);
+      return;
+    }
+    obert->Posar_Pagament(flag);
+    const Document_Pagable mostrat{document.lletra, obert->Numero_Document().Enter()};
+    bool& canviat = mostrats_[mostrat];
+    canviat = cadena_.Apuntar_Flag(mostrat, flag) || canviat;
+  }
+
+  // A form writes what changed on it; when another terminal wrote the flag since it was read, that is not all.
+  void Desar() {
+    for (const auto& [document, canviat] : std::exchange(mostrats_, {})) {
+      if (Document_Obert* obert = Formulari_De(document)) obert->Desar_Capcalera();
+      if (canviat) Posar_A_La_Capcalera(document, cadena_.Flag(document));
+    }
+  }
+
+ private:
+  Cadena& cadena_;
+  std::map<Document_Pagable, bool> mostrats_;
+};
 
 // ---- Questions to the documents that are linked with one
 
@@ -96,7 +115,7 @@ Documents A_Traves_Dels_Albarans(const Cadena& cadena, const Document_Pagable& d
 
 // Do the documents of the level before carry the payments: by their flags, and where all are on, by what they hold.
 // Flags without a payment behind them are taken away then.
-Resposta_Cadena Preguntar_Al_Nivell_Anterior(Cadena& cadena, const Document_Pagable& document, char lletra,
+Resposta_Cadena Preguntar_Al_Nivell_Anterior(const Cadena& cadena, const Document_Pagable& document, char lletra,
                                              Llista_De_Feina& feina,
                                              const std::function<void(const Documents&)>& treure) {
   const Documents anteriors = Enllacats(cadena, document, lletra);
@@ -111,7 +130,7 @@ Resposta_Cadena Preguntar_Al_Nivell_Anterior(Cadena& cadena, const Document_Paga
 
 class Recorregut {
  public:
-  explicit Recorregut(Cadena& cadena) : cadena_(cadena) {}
+  explicit Recorregut(Cadena& cadena) : cadena_(cadena), flags_(cadena) {}
 
   // The list grows while it is gone through; a document that is in it already does not enter again, which ends the
   // walk.
@@ -123,8 +142,9 @@ class Recorregut {
     }
   }
 
-  // The work list as the walk left it, for whoever looks into it afterwards.
-  void Desar_Llista() const {
+  // The heads of the forms, and the work list as the walk left it, for whoever looks into it afterwards.
+  void Desar() {
+    flags_.Desar();
     Connexio& local = sessio.Connexio_Local;
     Transaccio transaccio(local);
     local.Execute("DELETE * FROM FLAG_PAGAMENTS_TEMP");
@@ -171,7 +191,7 @@ class Recorregut {
 
   Resposta_Cadena Nivell_Anterior(const Document_Pagable& document, char lletra) {
     return Preguntar_Al_Nivell_Anterior(cadena_, document, lletra, feina_, [this](const Documents& anteriors) {
-      for (const Document_Pagable& anterior : anteriors) Escriure_Flag(cadena_, anterior, false);
+      for (const Document_Pagable& anterior : anteriors) flags_.Posar(anterior, false);
     });
   }
 
@@ -180,11 +200,12 @@ class Recorregut {
     for (const Decisio_Flag& decisio : taula) {
       if ((decisio.primer & primer) == 0 || (decisio.segon & segon) == 0 || (decisio.tercer & tercer) == 0) continue;
       if (!decisio.flag) Refusar(decisio.error);
-      return Escriure_Flag(cadena_, document, *decisio.flag);
+      return flags_.Posar(document, *decisio.flag);
     }
   }
 
   Cadena& cadena_;
+  Escriptor flags_;
   Llista_De_Feina feina_;
   std::size_t fets_ = 0;
 };
@@ -196,10 +217,10 @@ void Propagar_Flag_Pagaments(Cadena& cadena, const Document_Pagable& document) {
   try {
     recorregut.Fer(document);
   } catch (...) {
-    recorregut.Desar_Llista();
+    recorregut.Desar();
     throw;
   }
-  recorregut.Desar_Llista();
+  recorregut.Desar();
 }
 
 // Flags that were written before an error stay when nobody else's work depends on them.
@@ -226,20 +247,32 @@ bool Flag_Pagament(const std::string& document, std::int64_t numalb) {
 
 void Posar_Flag_Pagament(const std::string& document, std::int64_t numalb, bool flag) {
   const Document_Pagable quin{document.at(0), numalb};
-  if (!Posar_Al_Formulari(quin, flag)) Posar_A_La_Capcalera(quin, flag);
+  Document_Obert* obert = Formulari_De(quin);
+  if (obert == nullptr) return Posar_A_La_Capcalera(quin, flag);
+  obert->Posar_Pagament(flag);
+  obert->Desar_Capcalera();
 }
 
-void Comprovar_Linia_Albara(Cadena& cadena, std::int64_t albara, std::int64_t comanda) {
+std::vector<Flag_A_Posar> Comprovar_Linia_Albara(const Cadena& cadena, std::int64_t albara, std::int64_t comanda) {
   const Document_Pagable nota{'A', albara};
+  std::vector<Flag_A_Posar> flags;
   Llista_De_Feina cap;
-  const Resposta_Cadena comandes = Preguntar_Al_Nivell_Anterior(
-      cadena, nota, 'P', cap, [&](const Documents&) { Escriure_Flag(cadena, nota, false); });
+  const Resposta_Cadena comandes = Preguntar_Al_Nivell_Anterior(cadena, nota, 'P', cap, [&](const Documents&) {
+    flags.push_back({nota, false});
+  });
   if (comandes == Resposta_Cadena::Totes_Si || comandes == Resposta_Cadena::Discrepen) {
     Refusar("No es poden afegir línies a l'albarà si no pot tenir pagaments!");
   }
-  if (comanda == 0) return;
+  if (comanda == 0) return flags;
   const Document_Pagable servida{'P', comanda};
   const bool com_la_resta = comandes == Resposta_Cadena::Totes_No && !cadena.Flag(servida);
   const bool pagaments = cadena.Te_Pagaments(servida);
-  if (!com_la_resta && pagaments != cadena.Flag(servida)) Escriure_Flag(cadena, servida, pagaments);
+  if (!com_la_resta && pagaments != cadena.Flag(servida)) flags.push_back({servida, pagaments});
+  return flags;
+}
+
+void Posar_Flags(Cadena& cadena, const std::vector<Flag_A_Posar>& flags) {
+  Escriptor escriptor(cadena);
+  for (const auto& [document, flag] : flags) escriptor.Posar(document, flag);
+  escriptor.Desar();
 }

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "payments/M_Cadena.h"
 
@@ -19,6 +20,11 @@ bool Flag_Pagament(const std::string& document, std::int64_t numalb);  // false 
 // Through the form of that kind when it is loaded, whatever document it shows, and on the head otherwise.
 void Posar_Flag_Pagament(const std::string& document, std::int64_t numalb, bool flag);
 
+struct Flag_A_Posar {
+  Document_Pagable document;
+  bool flag;
+};
 // Before a line is added to a delivery note: a note whose orders carry the payments takes none. `comanda` is the order
-// that the line serves, 0 for none; its flag is put right when its payments say otherwise. Raises 1010.
-void Comprovar_Linia_Albara(Cadena& cadena, std::int64_t albara, std::int64_t comanda);
+// that the line serves, 0 for none. Writes nothing: the flags that have to be put right come back. Raises 1010.
+std::vector<Flag_A_Posar> Comprovar_Linia_Albara(const Cadena& cadena, std::int64_t albara, std::int64_t comanda);
+void Posar_Flags(Cadena& cadena, const std::vector<Flag_A_Posar>& flags);

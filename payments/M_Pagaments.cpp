@@ -17,7 +17,7 @@ bool Tenir_Pagaments(const std::string& document, std::int64_t numalb) {
 }
 
 double Total_Pagaments_Document(const std::string& document, std::int64_t numalb) {
-  const Recordset rs("SELECT SUM(IMPORT_PAG) AS IMPORT" + Condicio(document, numalb), sessio.Connexio_Comuna);
+  const Recordset rs(SQL_Total_Pagaments(document, numalb), sessio.Connexio_Comuna);
   return Nul_A_Defecte(rs["IMPORT"]).Doble();
 }
 
@@ -39,6 +39,6 @@ std::string SQL_Pagaments_Document(const std::string& document, std::int64_t num
          Condicio(document, numalb) + " ORDER BY DATA_PAG, ID_PAG";
 }
 
-std::string SQL_Formes_De_Pagament() {
-  return "SELECT ID_FP, DESCRIPCIO_FP FROM FORMES_PAGAMENT ORDER BY DESCRIPCIO_FP";
+std::string SQL_Total_Pagaments(const std::string& document, std::int64_t numalb) {
+  return "SELECT SUM(IMPORT_PAG) AS IMPORT" + Condicio(document, numalb);
 }

@@ -17,6 +17,6 @@ bool Supera_El_Total(double import, double pagat, double total);
 // Asks, and deletes the payment of that code. True when it went.
 bool Esborrar_Pagament(std::int64_t id);
 
-// The statement of the payments of a document, and that of the methods to choose from.
+// The statements of the payments of a document, and of what they add up to.
 std::string SQL_Pagaments_Document(const std::string& document, std::int64_t numalb);
-std::string SQL_Formes_De_Pagament();
+std::string SQL_Total_Pagaments(const std::string& document, std::int64_t numalb);

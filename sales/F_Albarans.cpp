@@ -52,7 +52,8 @@ const Descripcio_Editor& Editor() {
       .demanats = {"TXT_CLIENT"},
       .fixats = {"TXT_NUMALB", "DT_DATA", "CMB_CLIENT_DESC", "CHK_IVA", "CHK_RE"},
       .imprimir = Imprimir_Document,
-      .botons = {{u"B_Pagaments", u"F_PAGDOC"}, {u"B_EMAIL", u"F_STATUS"}},
+      .botons = {{u"B_EMAIL", u"F_STATUS"}},
+      .sense_pagaments = "Aquest albarà no pot tenir pagaments!",
   };
   return editor;
 }

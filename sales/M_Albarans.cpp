@@ -1,8 +1,11 @@
 #include "sales/M_Albarans.h"
 
+#include <memory>
+
 #include "core/M_Funcions_Comuns.h"
 #include "documents/M_Linies_Document.h"
 #include "documents/M_Peu.h"
+#include "payments/M_Flags.h"
 #include "sales/M_Comandes.h"
 #include "sales/M_Tipus_Venda.h"
 #include "stock/M_Magatzems.h"
@@ -23,6 +26,22 @@ Apunt_Estoc Estoc_D_Albara(const Capcalera_Oberta& cap, const std::string& artic
           .fer = [=, numero = cap.numero.Enter()] { Moviment_Albara(signe, estoc, unitats, numero); }};
 }
 
+// The chain is read once: what is written until the walk is known to it.
+Apunt_Linia Flags_D_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
+  const Document_Pagable nota{'A', cap.numero.Enter()};
+  const std::int64_t comanda = linia.comanda;
+  std::vector<Document_Pagable> inici = {nota};
+  if (comanda != 0) inici.push_back({'P', comanda});
+  const auto cadena = std::make_shared<Cadena>(inici);
+  return {
+      .abans = [cadena, flags = Comprovar_Linia_Albara(*cadena, nota.numero, comanda)] { Posar_Flags(*cadena, flags); },
+      .despres =
+          [cadena, nota, comanda] {
+            if (comanda != 0) cadena->Enllacar(nota.numero, comanda);
+            Propagar_Flag_Pagaments(*cadena, nota);
+          }};
+}
+
 // A free line on a form that has picked an order line keeps its link, and serves it too.
 void Columnes_D_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& fila) {
   fila.Set("COMANDA_AL", linia.comanda);
@@ -37,6 +56,11 @@ void Desfer_Servei(const std::string& empresa, const Recordset& linia) {
   Servir_Linia_Comanda(comanda, empresa, static_cast<std::int16_t>(Nul_A_Defecte(linia["COMANDA_LIN_AL"]).Enter()),
                        -Nul_A_Defecte(linia["UNITATS_AL"]).Doble());
   Posar_Estat_Comanda(comanda, empresa, false);
+  Propagar_Flag_Pagaments("P", comanda);
+}
+
+void Propagar_D_Albara(const Capcalera_Oberta& cap, Document_Obert& /*obert*/) {
+  Propagar_Flag_Pagaments("A", cap.numero.Enter());
 }
 
 // Without orders a line can only come from a proposal: its line there is pending again.
@@ -88,13 +112,14 @@ bool Bloquejat(const Valor& numero, const std::string& empresa) {
 
 }  // namespace
 
-// Flag_Comandes_Albara("A", numero) and what follows from it come before a line; Propagar_Flag_Pagaments after it.
 const Passos_Document passos_albara = {.bloquejat = Bloquejat,
                                        .demanar_bloquejat = Demanar_Bloquejat,
                                        .demanar = Demanar_Magatzem_Probable,
+                                       .apunt = Flags_D_Albara,
                                        .estoc = Estoc_D_Albara,
                                        .columnes = Columnes_D_Albara,
                                        .despres_d_esborrar = Desfer_Lligam,
+                                       .linies_esborrades = Propagar_D_Albara,
                                        .es_pot_moure = Es_Pot_Moure};
 
 std::int64_t Crear_Capcalera_Albara() {

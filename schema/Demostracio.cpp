@@ -89,6 +89,7 @@ class Sessio_De_Demostracio {
   explicit Sessio_De_Demostracio(const Opcions_Installacio& opcions) {
     sessio.pantalla = &pantalla_;
     sessio.Connexio_Comuna.Open(Adreca_Compartida(opcions));
+    sessio.Connexio_Local.Open(opcions.carpeta + "/dadeslocals.db");
     sessio.Empresa_Actual = empresa;
     sessio.Nom_Empresa = nom_empresa;
     sessio.Usuari_Actual = "ADMIN";
@@ -96,6 +97,7 @@ class Sessio_De_Demostracio {
   }
   ~Sessio_De_Demostracio() {
     Deixar_Anar_Rellotge();
+    sessio.Connexio_Local.Close();
     sessio.Connexio_Comuna.Close();
     sessio.pantalla = nullptr;
   }

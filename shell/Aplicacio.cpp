@@ -12,6 +12,7 @@
 #include "masters/F_Referencies.h"
 #include "masters/M_CP.h"
 #include "masters/M_Clients.h"
+#include "payments/F_PagDoc.h"
 #include "sales/F_Vendes.h"
 #include "session/F_Empresa.h"
 #include "session/F_EmpresesM.h"
@@ -84,6 +85,7 @@ void Registrar_Formularis() {
   Registrar_Formulari(QStringLiteral("F_EMPRESA"), [] { return new F_Empresa; });
   Registrar_Formularis_Mestres();
   Registrar_Formularis_Referencia();
+  Registrar_Formularis_Pagaments();
   Registrar_Formularis_Venda();
 }
 

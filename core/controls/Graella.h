@@ -86,6 +86,7 @@ class Graella : public QTableView {
   // stays in edit with what was typed, and Esc gives it up; one that another terminal changed is read again. Enter goes
   // to the next cell.
   void Permetre_Canvis(bool permes);
+  bool Permet_Canvis() const;
   // `titols` of its two columns, when the open list shows the codes too.
   void Desplegable(const QString& camp, const std::vector<Opcio_Graella>& opcions, const QStringList& titols = {});
   // Opened for a field: letters search, F2 or a second click edits, Ctrl+Enter hands the row over like a double click.

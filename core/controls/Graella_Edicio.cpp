@@ -16,6 +16,10 @@ void Graella::Permetre_Canvis(bool permes) {
   Refrescar();
 }
 
+bool Graella::Permet_Canvis() const {
+  return model_->Permet_Canvis();
+}
+
 // A double click hands a row over where rows are picked, so that it cannot open a cell too.
 void Graella::De_Triar(bool de_triar) {
   de_triar_ = de_triar;

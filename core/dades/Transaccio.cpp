@@ -27,6 +27,10 @@ void Transaccio::Confirmar() {
   confirmada_ = true;
 }
 
+std::shared_ptr<const Transaccio::Estat> Transaccio::Oberta(const Connexio& connexio) {
+  return connexio.transaccio_;
+}
+
 void Transaccio::Confirmar_Oberta(Connexio& connexio) {
   if (!connexio.En_Transaccio()) return;
   const std::shared_ptr<Estat> estat = connexio.transaccio_;

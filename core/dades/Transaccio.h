@@ -24,15 +24,17 @@ class Transaccio {
   // out of reach took its transaction with it.
   static void Desfer_Oberta(Connexio& connexio) noexcept;
 
- private:
-  friend class Connexio;
   enum class Fi { Oberta, Confirmada, Desfeta };
   // What all that belong to one transaction know of it.
   struct Estat {
     Fi fi = Fi::Oberta;
     bool condemnada = false;  // a part of it failed
   };
+  // The one that is open, to be asked later what became of it; null without any.
+  static std::shared_ptr<const Estat> Oberta(const Connexio& connexio);
 
+ private:
+  friend class Connexio;
   Connexio& connexio_;
   std::shared_ptr<Estat> estat_;
   bool propia_;

@@ -14,7 +14,7 @@ Taula_Referencia::Taula_Referencia(const Descripcio_Referencia& descripcio)
   graella->viewport()->installEventFilter(this);
   graella->Passos({.nova = [this](const char* camp) { Fila_Nova(rs_, camp); },
                    .per_desar = [this](const char* camp) { return Per_Desar(rs_, camp); },
-                   .desada = [this] { Fila_Desada(); }});
+                   .desada = [this] { Files_Canviades(); }});
 }
 
 // The codes of its columns come on the way of its rows: what is asked for in one transaction travels together.
@@ -48,6 +48,7 @@ void Taula_Referencia::Esborrar_Fila() {
   if (Graella_Llista()->En_Edicio() || Graella_Llista()->Fila_Actual() < 0) return;
   Esborrar_Retinguda();
   Requerir();
+  Files_Canviades();
 }
 
 // Held while it is asked for: a row that another terminal edits is not deleted, nor edited while the question stands.

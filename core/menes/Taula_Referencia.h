@@ -41,7 +41,8 @@ class Taula_Referencia : public Llista {
   virtual void Fila_Nova(Recordset& /*fila*/, const char* /*camp*/) {}
   // The row in edit, left from this column, is about to be written. False gives its edit up.
   virtual bool Per_Desar(const Recordset& /*fila*/, const char* /*camp*/) { return true; }
-  virtual void Fila_Desada() {}
+  // A row was written or deleted.
+  virtual void Files_Canviades() {}
 
   std::string Sentencia() const override { return descripcio_.sentencia(); }
   Connexio& Base() const override { return sessio.*descripcio_.base; }

@@ -95,6 +95,15 @@ const Cami camins[] = {
        Doble_Clic("F_ALBARANSM", 0);
      },
      false},
+    {"F_PAGDOC",
+     [] {
+       sessio.Pag_Document = "A";
+       sessio.Pag_Numero = 1;
+       Obrir(QStringLiteral("F_PAGDOC"));
+     },
+     false,
+     "INSERT INTO PAGAMENTS (DOCUMENT_PAG, NUMALB_PAG, EMPRESA_PAG, PAGAMENT_PAG, DATA_PAG, IMPORT_PAG) VALUES "
+     "('A', 1, 'B00000000', 'EF', #3/15/2011#, 20)"},
     {usuaris_m, Obrir_Sol<usuaris_m>, false},
     {usuari, Obrir_Editor<usuari, &Sessio::Codi_Usuari, codi_usuari>, false,
      "DELETE * FROM USUARIS WHERE CODI_USU = 'PERE'", "UPDATE USUARIS SET CODI_USU = 'ANNA' WHERE CODI_USU <> 'ADMIN'"},

@@ -12,7 +12,7 @@ struct Cami {
   const char* formulari;
   void (*obrir)();
   bool prem_botons;          // its fields are read by its buttons
-  const char* prepara = "";  // leaves the one row that is edited
+  const char* prepara = "";  // leaves the one row that is edited, or writes what the others do not bring
   const char* repara = "";   // gives its code back to a row that no statement can name any more
 };
 std::span<const Cami> Camins();

@@ -41,10 +41,14 @@ class Viatges_Document : public Amb_Principal {
     camp->setText(QString::fromLatin1(text));
     Deixar_Camp(camp);
   }
-  static void Afegir_Linia() {
+  static void Omplir_Linia() {
     Escriure("TXT_ARTICLE_AL", "MARTELL");
     Escriure("TXT_PREU_UNITARI_AL", "20");
-    Escriure("TXT_UNITATS_AL", "1");
+  }
+  static void Desar_Linia() { Escriure("TXT_UNITATS_AL", "1"); }
+  static void Afegir_Linia() {
+    Omplir_Linia();
+    Desar_Linia();
   }
   static std::int64_t Viatges(const std::function<void()>& feina) {
     const std::int64_t abans = sessio.Connexio_Comuna.Viatges();
@@ -74,4 +78,16 @@ TEST_F(Viatges_Document, A_line_typed_through_the_editor_takes_eight_at_most) {
   Triar_Client();
   Afegir_Linia();
   EXPECT_LE(Viatges(Afegir_Linia), 8);
+}
+
+TEST_F(Viatges_Document, A_line_saved_on_a_note_of_one_order_and_one_invoice_takes_ten_at_most) {
+  Nou();
+  Triar_Client();
+  Afegir_Linia();
+  for (const char* sql : {"INSERT INTO COMANDACAP (NUMALB_CC, EMPRESA_CC, PAGAMENT_CC) VALUES (3, 'B00000000', -1)",
+                          "INSERT INTO FACTURACAP (NUMALB_FC, EMPRESA_FC, PAGAMENT_FC) VALUES (4, 'B00000000', 0)",
+                          "UPDATE ALBARALIN SET COMANDA_AL = 3", "UPDATE ALBARACAP SET NUMFAC_AC = '4'"})
+    Executar(sql);
+  Omplir_Linia();
+  EXPECT_LE(Viatges(Desar_Linia), 10);
 }

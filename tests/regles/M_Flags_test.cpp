@@ -131,7 +131,7 @@ class Linia_Nova : public M_Flags {
   static void Comprovar(std::int64_t albara, std::int64_t comanda) {
     Transaccio transaccio(sessio.Connexio_Comuna);
     Cadena cadena({{'A', albara}, {'P', comanda}});
-    Comprovar_Linia_Albara(cadena, albara, comanda);
+    Posar_Flags(cadena, Comprovar_Linia_Albara(cadena, albara, comanda));
     transaccio.Confirmar();
   }
 };

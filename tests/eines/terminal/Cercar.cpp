@@ -6,6 +6,7 @@
 #include <QMenu>
 
 #include "core/controls/Controls.h"
+#include "core/controls/Graella.h"
 #include "core/formularis/Formulari.h"
 #include "core/formularis/Formularis_Oberts.h"
 
@@ -99,4 +100,12 @@ int Numero_De(const QString& text) {
   const int numero = text.toInt(&be);
   if (!be) throw Error_Guio(QStringLiteral("%1 is no number").arg(text));
   return numero;
+}
+
+int Fila_De(const Graella& graella, const QString& text) {
+  const int fila = Numero_De(text) - 1;
+  const bool nova = graella.En_Edicio() && graella.currentIndex().row() == graella.Files();
+  if (fila < 0 || fila >= graella.Files() + (nova ? 1 : 0))
+    throw Error_Guio(QStringLiteral("the grid has %1 rows").arg(graella.Files()));
+  return fila;
 }

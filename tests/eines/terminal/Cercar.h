@@ -36,3 +36,5 @@ Tipus& De_Tipus(QWidget& control, const QString& adreca, const char* que) {
 }
 
 int Numero_De(const QString& text);
+// A row of the grid, counted from 1 in scripts and from 0 here; the new row too, while it is in edit.
+int Fila_De(const Graella& graella, const QString& text);

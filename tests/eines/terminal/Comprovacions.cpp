@@ -104,7 +104,8 @@ QString Text_De_Cella(const Graella& graella, int fila, const QString& camp) {
   if (columna < 0) throw Error_Guio(QStringLiteral("the grid has no column of %1").arg(camp));
   const QVariant marca = graella.model()->index(fila, columna).data(Qt::CheckStateRole);
   if (marca.isValid()) return On_Off(marca.toInt() == Qt::Checked);
-  return graella.Text_Cella(fila, camp);
+  if (fila < graella.Files()) return graella.Text_Cella(fila, camp);
+  return graella.model()->index(fila, columna).data().toString();  // the new row, in edit
 }
 
 // The captions that can be seen, as they stand from left to right.
@@ -139,9 +140,7 @@ void Comprovar_Graella(const QStringList& mots) {
         Titols(graella),
         mots[4].split(u'|').replaceInStrings(blancs_del_voltant, QString()).join(QStringLiteral(" | ")));
   }
-  const int fila = Numero_De(mots[3]) - 1;
-  if (fila < 0 || fila >= graella.Files())
-    throw Error_Guio(QStringLiteral("the grid has %1 rows").arg(graella.Files()));
+  const int fila = Fila_De(graella, mots[3]);
   if (mots.size() == 6 && mots[4] != QLatin1String("style")) return Estat_Cella(graella, mots);
   if (mots[4] != QLatin1String("style")) return Exigir_Igual(Text_De_Cella(graella, fila, mots[4]), mots[6]);
   const QString estil = graella.Estil(fila);

@@ -18,14 +18,6 @@ Graella& Graella_De(const QString& adreca) {
   return De_Tipus<Graella>(Control_Usable(adreca), adreca, "grid");
 }
 
-// Rows are counted from 1 in scripts and from 0 here.
-int Fila_De(const Graella& graella, const QString& text) {
-  const int fila = Numero_De(text) - 1;
-  if (fila < 0 || fila >= graella.Files())
-    throw Error_Guio(QStringLiteral("the grid has %1 rows").arg(graella.Files()));
-  return fila;
-}
-
 int Columna_Visible(const Graella& graella) {
   for (int columna = 0; columna < graella.model()->columnCount(); ++columna)
     if (!graella.isColumnHidden(columna)) return columna;
