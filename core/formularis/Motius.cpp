@@ -33,7 +33,7 @@ QString Motiu_De_Desactivat(const QWidget& control) {
   if (control.property(propietat_sense_dret).toBool()) {
     return Paraules("L'usuari no hi té dret", "El usuario no tiene derecho", "The user has no right to it");
   }
-  QString propi = formulari == nullptr ? QString() : formulari->Per_Que_No(control);
+  QString propi = formulari == nullptr ? control.property(propietat_motiu).toString() : formulari->Per_Que_No(control);
   if (!propi.isEmpty()) return propi;
   return Paraules("Ara no es pot fer servir", "Ahora no se puede usar", "It cannot be used now");
 }

@@ -35,9 +35,9 @@ bool Hi_Ha_Impressora() {
   return Treballs_A_Fitxers() || !QPrinterInfo::availablePrinterNames().isEmpty();
 }
 
-QString Sense_Impressora() {
-  return Text_Qt(Missatge("Aquest ordinador no té cap impressora.", "Este ordenador no tiene ninguna impresora.",
-                          "This computer has no printer."));
+QString Motiu_Sense_Impressora() {
+  return Text_Qt(Missatge("Aquest ordinador no té cap impressora", "Este ordenador no tiene ninguna impresora",
+                          "This computer has no printer"));
 }
 
 bool Demanar_Impressora(const Pagines& pagines, QWidget* pare) {

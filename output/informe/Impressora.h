@@ -18,6 +18,6 @@ void Preparar_Impressora(const Pagines& pagines, QPrinter& impressora);
 void Enviar_A_Impressora(const Pagines& pagines, QPrinter& impressora);
 
 bool Hi_Ha_Impressora();
-QString Sense_Impressora();  // why a button that prints cannot be pressed
+QString Motiu_Sense_Impressora();  // for the button that prints, where there is none
 // The system's print dialog, then the printer; true when the pages were printed. Printer and copies are remembered.
 bool Demanar_Impressora(const Pagines& pagines, QWidget* pare);

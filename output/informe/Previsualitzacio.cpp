@@ -17,6 +17,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Motius.h"
 #include "core/formularis/Text_Qt.h"
 #include "output/informe/Impressora.h"
 #include "output/informe/Informe.h"
@@ -83,13 +84,13 @@ class Finestra_Previa : public QDialog {
       boto->setObjectName(QString::fromLatin1(ordre.nom));
       if (ordre.amb_text) boto->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
       accions_[ordre.que] = accio;
+      if (ordre.que == Que_Fa::Imprimir) {
+        accio->setEnabled(Hi_Ha_Impressora());
+        boto->setProperty(propietat_motiu, Motiu_Sense_Impressora());
+      }
       if (ordre.que == Que_Fa::Pagina_Anterior) Posar_Numero(*barra);
       if (ordre.que == Que_Fa::Reduir) Posar_Ampliacio(*barra);
       if (ordre.acaba_grup) barra->addSeparator();
-    }
-    if (!Hi_Ha_Impressora()) {
-      accions_[Que_Fa::Imprimir]->setEnabled(false);
-      accions_[Que_Fa::Imprimir]->setToolTip(Sense_Impressora());
     }
     return barra;
   }

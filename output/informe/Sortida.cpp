@@ -14,6 +14,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Formulari.h"
+#include "core/formularis/Motius.h"
 #include "output/informe/Aparell.h"
 #include "output/informe/Impressora.h"
 #include "output/informe/Informe.h"
@@ -137,10 +138,10 @@ void Dialeg_Impressio(const Pagines& pagines, QWidget* pare) {
   auto* imprimir = boto("B_Imprimir", Paraula("&Imprimir...", "&Imprimir...", "&Print..."), Dibuix::Imprimir,
                         [&] { return Demanar_Impressora(pagines, &dialeg); });
   imprimir->setEnabled(Hi_Ha_Impressora());
-  if (!imprimir->isEnabled()) imprimir->setToolTip(Sense_Impressora());
+  imprimir->setProperty(propietat_motiu, Motiu_Sense_Impressora());
   boto("B_Previsualitzar", Paraula("&Previsualitzar", "&Vista previa", "Pre&view"), Dibuix::Cercar,
        [&] { return Previsualitzar(pagines, &dialeg); });
-  boto("B_PDF", Paraula("&Desar com a PDF...", "&Guardar como PDF...", "&Save as PDF..."), Dibuix::Llista,
+  boto("B_PDF", Paraula("&Desar com a PDF...", "&Guardar como PDF...", "&Save as PDF..."), Dibuix::Desar,
        [&] { return Demanar_PDF(pagines, &dialeg); });
   boto("B_Exit", Paraula("&Cancel·lar", "&Cancelar", "&Cancel"), Dibuix::Sortir, [] { return true; });
   QApplication::setOverrideCursor(Qt::ArrowCursor);

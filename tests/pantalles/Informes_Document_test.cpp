@@ -108,6 +108,14 @@ TEST_F(Informes_Document, HeadingLinesOfAnInvoicePrintWithEmptyFigures) {
   EXPECT_TRUE(Imprimir_I_Llegir(tipus_factura).contains(QRegularExpression(u"Albarà 7 del 01/03/2026 *\n"_qs)));
 }
 
+TEST_F(Informes_Document, AReturnPrintsWithItsSignInEveryKind) {
+  for (const auto& informe : Informes_De_Documents()) {
+    Posar_Document(informe.Tipus());
+    Posar_Linia(informe.Tipus(), "Devolució de tub", -3, 1234.5);
+    Conte(Imprimir_I_Llegir(informe.Tipus()), {"Devolució de tub -3,00 1.234,50 -3.703,50"});
+  }
+}
+
 TEST_F(Informes_Document, APurchaseNoteShowsCostsTheSupplierAndNoDiscounts) {
   Posar_Document(tipus_albcompra);
   Posar_Linia(tipus_albcompra, "Cargol", 3, 10, 50);

@@ -261,7 +261,12 @@ TEST_F(M_Impressio, TheTopOfTheCompanysBlockIsAParameterOfTheReportsWithALogo) {
   EXPECT_EQ(Ompliment(tipus_factura).posicio_top, 1200);
   sessio.Parametres["P_Posicio_Top"] = "alt";
   EXPECT_EQ(Error_De([] { Ompliment(tipus_factura); }).Numero(), errors::tipus);
-  EXPECT_EQ(Ompliment(tipus_albara).posicio_top, 0) << "the others do not read it";
+  sessio.Parametres["P_Posicio_Top"] = "1e30";
+  EXPECT_EQ(Ompliment(tipus_factura).posicio_top, 1000000) << "as far as anything needs";
+  for (const auto& informe : Informes_De_Documents()) {
+    const int top = Ompliment(informe.Tipus()).posicio_top;
+    EXPECT_TRUE(informe.logo || top == 0) << informe.informe << " does not read it";
+  }
 }
 
 TEST_F(M_Impressio, WithoutPricesTheirFieldsAndTitlesGoAndTheFootStays) {
@@ -301,6 +306,69 @@ TEST_F(M_Impressio, APurchaseNoteGoesThroughTheWorkTableOfTheNotesWithItsCosts) 
   const auto ompliment = Ompliment(tipus_albcompra);
   EXPECT_EQ(ompliment.formats.size(), 3U) << "units, cost, amount";
   EXPECT_EQ(Text_Impres(ompliment, "L_NETO_IMP"), "15,00");
+}
+
+// The five kinds, whether or not they have an editor: lines in their order and of that document alone, breaks as one
+// no-break space, a title over discounts only when there are some.
+TEST_F(M_Impressio, EveryKindCopiesItsOwnLines) {
+  for (const auto& informe : Informes_De_Documents()) {
+    SCOPED_TRACE(informe.informe);
+    const Tipus_Document& tipus = informe.Tipus();
+    Posar_Cap(tipus);
+    const auto posar = [&](int linia, const std::string& descripcio, double unitats, double dte) {
+      const auto columna = [&](const char* paper) { return tipus.lin.Columna(paper); };
+      Recordset rs("SELECT * FROM " + std::string(tipus.lin.nom), sessio.Connexio_Comuna, Bloqueig::Optimista);
+      rs.AddNew();
+      rs.Set(columna("NUMALB"), tipus.numero_es_text ? Valor("7") : Valor(numero));
+      rs.Set(columna("EMPRESA"), empresa_prova);
+      rs.Set(columna("LIN"), linia);
+      rs.Set(columna("ARTICLE"), "A" + std::to_string(linia));
+      rs.Set(columna("DESCRIPCIO"), descripcio);
+      rs.Set(columna("UNITATS"), unitats);
+      rs.Set(columna(std::string(informe.Linia_De("PREU_UNITARI")).c_str()), 4.5);
+      rs.Set(columna("DTE"), dte);
+      rs.Set(columna("IMPORT_NET"), unitats * 4.5);
+      rs.Update();
+    };
+    const bool descompte = !informe.Linia_De("DTE").empty();
+    const std::string titol = "L_" + tipus.lin.Columna("DTE");
+    posar(2, "sota", -2, 0);
+    posar(1, "dalt\r\nbaix", 3, 0);
+    EXPECT_EQ(Text_Impres(Ompliment(tipus), titol), descompte ? " " : "(none)");
+    posar(3, "Albarà 7", 0, 12.5);
+    EXPECT_EQ(Text_Impres(Ompliment(tipus), titol), "(none)");
+    Omplir_Taula_Impressio(informe, tipus.numero_es_text ? Valor("7") : Valor(numero), empresa_prova);
+    Recordset rs(SQL_Impressio(informe), sessio.Connexio_Local);
+    ASSERT_EQ(rs.RecordCount(), 3);
+    const auto columna = [&](const char* paper) { return informe.taula.Columna(paper); };
+    EXPECT_EQ(rs[columna("DESCRIPCIO")].Text(), "dalt\u00A0baix");
+    EXPECT_EQ(rs[columna("ARTICLE")].Text(), "A1");
+    EXPECT_EQ(rs[columna("TOTAL_IMPORT")].Doble(), 13.5);
+    rs.MoveNext();
+    EXPECT_EQ(rs[columna("LIN")].Enter(), 2);
+    EXPECT_EQ(rs[columna("UNITATS")].Doble(), -2);
+    EXPECT_EQ(rs[columna("PREU_UNITARI")].Doble(), 4.5);
+    EXPECT_EQ(Text_Impres(Ompliment(tipus), "L_NETO_IMP"), "4,50");
+    Omplir_Taula_Impressio(informe, tipus.numero_es_text ? Valor("8") : Valor(8), empresa_prova);
+    EXPECT_EQ(Recordset(SQL_Impressio(informe), sessio.Connexio_Local).RecordCount(), 0);
+  }
+}
+
+TEST_F(M_Impressio, WithoutPricesEveryKindKeepsUnitsNetAndFoot) {
+  for (const auto& informe : Informes_De_Documents()) {
+    SCOPED_TRACE(informe.informe);
+    const Tipus_Document& tipus = informe.Tipus();
+    Posar_Cap(tipus);
+    const auto ompliment = Ompliment(tipus, false);
+    for (const char* paper : {"PREU_UNITARI", "DTE", "TOTAL_IMPORT"}) {
+      const bool hi_es = !informe.Linia_De(paper).empty();
+      EXPECT_EQ(Amagat(ompliment, "TXT_" + informe.taula.Columna(paper)), hi_es) << paper;
+    }
+    EXPECT_FALSE(Amagat(ompliment, "TXT_" + informe.taula.Columna("UNITATS")));
+    EXPECT_EQ(Text_Impres(ompliment, "L_NETO_IMP"), "0,00");
+    EXPECT_EQ(Text_Impres(ompliment, "L_BASE_4"), "");
+    EXPECT_EQ(Text_Impres(ompliment, "L_IMPORT_TOTAL_IMP"), "0,00");
+  }
 }
 
 TEST_F(M_Impressio, AKindThatIsNotPrintedIsAnError) {
