@@ -24,6 +24,27 @@ namespace fs = std::filesystem;
 
 constexpr int linies_per_terminal = 200;
 constexpr int linies_per_nota = 20;
+constexpr int linies_per_servida = 4;  // one of so many serves an order
+
+// Two terminals serve the same order at the same time, each on a note of its own: a chain of three documents.
+std::int64_t Comanda_De(int terminal, int nota) {
+  return (terminal + 1) / 2 * 1000 + nota;
+}
+
+void Sembrar_Comandes(int terminals) {
+  Transaccio transaccio(sessio.Connexio_Comuna);
+  for (int terminal = 1; terminal <= terminals; terminal += 2) {
+    for (int nota = 0; nota < linies_per_terminal / linies_per_nota; ++nota) {
+      const std::string numero = std::to_string(Comanda_De(terminal, nota));
+      sessio.Connexio_Comuna.Execute("INSERT INTO COMANDACAP (NUMALB_CC, EMPRESA_CC, PAGAMENT_CC) VALUES (" + numero +
+                                     ", " + Text_SQL(empresa_mesura) + ", -1)");
+      sessio.Connexio_Comuna.Execute(
+          "INSERT INTO COMANDALIN (NUMALB_CL, EMPRESA_CL, LIN_CL, UNITATS_CL, SERVIDES_CL) VALUES (" + numero + ", " +
+          Text_SQL(empresa_mesura) + ", 1, 100000, 0)");
+    }
+  }
+  transaccio.Confirmar();
+}
 
 struct Treball {
   std::vector<double> desades;  // milliseconds
@@ -70,9 +91,12 @@ Treball Treballar(int terminal) {
   for (int linia = 0; linia < linies_per_terminal;) {
     const std::int64_t numero = Nota_Nova(treball);
     Nota_Oberta nota(numero);
+    const std::int64_t comanda = Comanda_De(terminal, linia / linies_per_nota);
     for (int k = 0; k < linies_per_nota && linia < linies_per_terminal; ++k, ++linia) {
       // Terminals walk the same articles from different places and meet again and again.
-      const Linia_Entrada entrada = Linia_Mesura(terminal * 7 + linia * 3);
+      Linia_Entrada entrada = Linia_Mesura(terminal * 7 + linia * 3);
+      entrada.comanda = k % linies_per_servida == 0 ? comanda : 0;
+      entrada.comanda_lin = entrada.comanda == 0 ? std::int16_t{0} : std::int16_t{1};
       treball.desades.push_back(Mil_Segons([&] { Fins_Que_Vagi(treball, [&] { nota.Afegir(entrada); }); }));
     }
     Alliberar_Per_Tipus("AC", std::to_string(numero));
@@ -105,7 +129,7 @@ void Exigir(const std::string& que, double vist, double esperat) {
   throw std::runtime_error(que + ": " + Amb_Decimals(vist, 2) + " instead of " + Amb_Decimals(esperat, 2));
 }
 
-// Stock, journal, lines and feet tell one story, and nobody holds anything.
+// Stock, journal, lines, feet, served units and payment flags tell one story, and nobody holds anything.
 void Comprovar(int terminals) {
   const double linies = static_cast<double>(terminals) * linies_per_terminal;
   Exigir("lines", Numero("SELECT COUNT(*) AS N FROM ALBARALIN"), linies);
@@ -120,6 +144,10 @@ void Comprovar(int terminals) {
     Exigir("stock of " + article, estoc["UNIDADES_ST"].Doble() - 100000,
            Numero("SELECT SUM(UNIDADES_MOV) AS N FROM MOVIMIENTOS" + condicio));
   }
+  Exigir("served units", Numero("SELECT SUM(SERVIDES_CL) AS N FROM COMANDALIN"),
+         Numero("SELECT SUM(UNITATS_AL) AS N FROM ALBARALIN WHERE COMANDA_AL <> 0"));
+  Exigir("orders with the flag", Numero("SELECT COUNT(*) AS N FROM COMANDACAP WHERE PAGAMENT_CC = -1"), 0);
+  Exigir("notes without it", Numero("SELECT COUNT(*) AS N FROM ALBARACAP WHERE PAGAMENT_AC <> -1"), 0);
   Recordset notes("SELECT NUMALB_AL, SUM(IMPORT_NET_AL) AS NET FROM ALBARALIN GROUP BY NUMALB_AL",
                   sessio.Connexio_Comuna);
   for (; !notes.Eof(); notes.MoveNext()) {
@@ -153,6 +181,7 @@ void Mesurar(const std::string& nom, int terminals) {
   const Installacio_Prova installacio;
   carpeta = installacio.Dir_Dades();
   Sembrar_Articles(sessio.Connexio_Comuna);
+  Sembrar_Comandes(terminals);
   // A process starts without the connections of the one that began it.
   Tancar_Connexions();
   std::vector<pid_t> processos;

@@ -1,14 +1,16 @@
 // prova_talls [--seed S] [N]
 //
-// Kills a terminal N times (100) at random moments while it adds and deletes lines of delivery notes, now on the real
-// screens, now through the rules alone, which write faster. Looks after each kill whether the file is sound and lines,
-// foot, stock, journal and served units agree. Prints the seed, what did not agree, how many kills fell in the middle
-// of a write, and `N passed, N failed`.
+// Kills a terminal N times (100) at random moments while it adds and deletes lines of delivery notes and payments, now
+// on the real screens, now through the rules alone, which write faster. Looks after each kill whether the file is sound
+// and lines, foot, stock, journal, served units and payment flags agree. With BROLLADOR_MOTOR=postgres all of it is on
+// a server, which is killed and started again every third time, under the terminal at work. Prints the seed, what did
+// not agree, how many kills fell in the middle of a write (of a file), and `N passed, N failed`.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <optional>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -21,6 +23,7 @@
 #include "tests/eines/talls/Oficinista.h"
 #include "tests/eines/talls/Proces.h"
 #include "tests/eines/talls/Treballador.h"
+#include "tests/servidor/Base_Servidor.h"
 
 namespace fs = std::filesystem;
 using namespace talls;
@@ -28,7 +31,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// Between the start of the work and its end.
+// Between the start of the work and its end, on a file.
 constexpr std::chrono::microseconds feina_de_regles = 60ms;
 constexpr std::chrono::microseconds feina_de_pantalles = 250ms;
 
@@ -51,10 +54,10 @@ class Carpeta_Temporal {
   fs::path cami_;
 };
 
-std::vector<std::string> Mirar(const std::string& carpeta) {
+std::vector<std::string> Mirar(const Lloc& lloc) {
   Pantalla_Muda pantalla;
   try {
-    Obrir_Sessio(carpeta, pantalla);
+    Obrir_Sessio(lloc, pantalla);
     auto queixes = Discordances();
     Tancar_Connexions();
     return queixes;
@@ -64,6 +67,18 @@ std::vector<std::string> Mirar(const std::string& carpeta) {
   }
 }
 
+// The little company, in a folder and where it is asked for on a server.
+struct Empresa_De_Prova {
+  Empresa_De_Prova() {
+    if (Proves_Al_Servidor()) base.emplace();
+    lloc = {carpeta.Cami(), base ? base->Adreca() : carpeta.Cami() + "/comuna.db"};
+    Crear_Magatzem(lloc);
+  }
+  Carpeta_Temporal carpeta;
+  std::optional<Base_Servidor> base;
+  Lloc lloc;
+};
+
 // A check that sees nothing would pass every kill: it must see what a half-written line leaves behind.
 bool Es_Veu_El_Dany() {
   const char* const danys[] = {
@@ -72,16 +87,17 @@ bool Es_Veu_El_Dany() {
       "'B00000000', 1, 'S1', 1, 25)",
       "INSERT INTO ALBARAPEU (NUMALB_AP, EMPRESA_AP, PORC_IVA_AP, BASE_AP) VALUES (2, 'B00000000', 21, 0)",
       "UPDATE COMANDALIN SET SERVIDES_CL = 1 WHERE NUMALB_CL = 1 AND LIN_CL = 1",
+      "UPDATE COMANDACAP SET PAGAMENT_CC = 0 WHERE NUMALB_CC = 1",
+      "INSERT INTO PAGAMENTS (DOCUMENT_PAG, NUMALB_PAG, EMPRESA_PAG) VALUES ('A', 3, 'B00000000')",
   };
-  const Carpeta_Temporal carpeta;
-  Crear_Magatzem(carpeta.Cami());
-  if (!Mirar(carpeta.Cami()).empty()) return false;
+  const Empresa_De_Prova nova;
+  if (!Mirar(nova.lloc).empty()) return false;
   std::size_t vistes = 0;
   for (const char* dany : danys) {
     Connexio comuna;
-    comuna.Open(carpeta.Cami() + "/comuna.db");
+    comuna.Open(nova.lloc.comuna);
     comuna.Execute(dany);
-    const std::size_t ara = Mirar(carpeta.Cami()).size();
+    const std::size_t ara = Mirar(nova.lloc).size();
     if (ara <= vistes) return false;
     vistes = ara;
   }
@@ -98,63 +114,70 @@ struct Recompte {
 class Prova {
  public:
   explicit Prova(std::uint32_t llavor) : atzar_(llavor) {
-    Crear_Magatzem(carpeta_.Cami());
-    setenv("XDG_DATA_HOME", carpeta_.Arrel().c_str(), 1);
-    setenv("XDG_RUNTIME_DIR", carpeta_.Arrel().c_str(), 1);
-    setenv("PROVA_IMPRESSIONS", carpeta_.Arrel().c_str(), 1);
+    const std::string arrel = empresa_.carpeta.Arrel();
+    setenv("XDG_DATA_HOME", arrel.c_str(), 1);
+    setenv("XDG_RUNTIME_DIR", arrel.c_str(), 1);
+    setenv("PROVA_IMPRESSIONS", arrel.c_str(), 1);
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
   }
 
   void Un_Tall(int numero, Recompte& recompte) {
     std::vector<std::string> queixes;
+    cau_el_servidor_ = Proves_Al_Servidor() && numero % 3 == 0;
     const std::int64_t abans = Moviments();
     try {
       const bool mort = numero % 2 == 0 ? Tallar_Regles() : Tallar_Pantalles();
-      if (!mort) queixes.push_back("the terminal ended by itself");
+      if (!mort && !cau_el_servidor_) queixes.push_back("the terminal ended by itself");
     } catch (const std::runtime_error& error) {
       queixes.push_back(error.what());
     }
+    if (cau_el_servidor_) Tornar_A_Engegar_Servidor();
     if (Hi_Ha_Escriptura_A_Mitges()) ++recompte.a_mitges;
     if (Moviments() == abans) ++recompte.en_blanc;
-    for (const std::string& queixa : Mirar(carpeta_.Cami())) queixes.push_back(queixa);
+    for (const std::string& queixa : Mirar(empresa_.lloc)) queixes.push_back(queixa);
     ++(queixes.empty() ? recompte.passats : recompte.fallats);
     for (const std::string& queixa : queixes) std::printf("kill %d: %s\n", numero, queixa.c_str());
   }
 
  private:
   bool Tallar_Regles() {
-    Proces terminal("prova_talls", {"--treballar", carpeta_.Cami(), std::to_string(atzar_())});
+    Proces terminal("prova_talls",
+                    {"--treballar", empresa_.lloc.carpeta, empresa_.lloc.comuna, std::to_string(atzar_())});
     if (!terminal.Llegir_Linia(std::chrono::steady_clock::now() + 30s))
       throw std::runtime_error("the terminal did not start");
     std::this_thread::sleep_for(Qualsevol(feina_de_regles));
+    if (cau_el_servidor_) Matar_Servidor();
     return terminal.Matar();
   }
 
   bool Tallar_Pantalles() {
     Oficinista oficinista(atzar_);
     oficinista.Treballar(std::chrono::steady_clock::now() + Qualsevol(feina_de_pantalles));
+    if (cau_el_servidor_) Matar_Servidor();
     return oficinista.Matar();
   }
 
   std::int64_t Moviments() const {
     Connexio comuna;
-    comuna.Open(carpeta_.Cami() + "/comuna.db");
+    comuna.Open(empresa_.lloc.comuna);
     const Recordset rs("SELECT COUNT(*) AS N FROM MOVIMIENTOS", comuna);
     return rs["N"].Enter();
   }
 
   bool Hi_Ha_Escriptura_A_Mitges() const {
     std::error_code sense;
-    const auto mida = fs::file_size(carpeta_.Cami() + "/comuna.db-journal", sense);
+    const auto mida = fs::file_size(empresa_.lloc.carpeta + "/comuna.db-journal", sense);
     return !sense && mida > 0;
   }
 
   std::chrono::microseconds Qualsevol(std::chrono::microseconds fins_a) {
-    return std::chrono::microseconds(std::uniform_int_distribution<std::int64_t>(0, fins_a.count())(atzar_));
+    const int lentitud = Proves_Al_Servidor() ? 3 : 1;
+    return std::chrono::microseconds(std::uniform_int_distribution<std::int64_t>(0, lentitud * fins_a.count())(atzar_));
   }
 
-  Carpeta_Temporal carpeta_;
+  Empresa_De_Prova empresa_;
   std::mt19937 atzar_;
+  bool cau_el_servidor_ = false;
 };
 
 int Tallar(int talls, std::uint32_t llavor) {
@@ -175,8 +198,8 @@ int Tallar(int talls, std::uint32_t llavor) {
 }  // namespace
 
 int main(int argc, char** argv) try {
-  if (argc == 4 && std::strcmp(argv[1], "--treballar") == 0) {
-    const std::string queixa = Treballar_Sense_Fi(argv[2], static_cast<std::uint32_t>(std::stoul(argv[3])));
+  if (argc == 5 && std::strcmp(argv[1], "--treballar") == 0) {
+    const std::string queixa = Treballar_Sense_Fi({argv[2], argv[3]}, static_cast<std::uint32_t>(std::stoul(argv[4])));
     std::fprintf(stderr, "terminal: %s\n", queixa.c_str());
     return EXIT_FAILURE;
   }

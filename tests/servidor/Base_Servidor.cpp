@@ -50,6 +50,26 @@ void Assegurar_Servidor() {
   Servidor();
 }
 
+namespace {
+
+void Caiguda(const std::string& que) {
+  const std::string adreca = Servidor();
+  const std::size_t carpeta = adreca.find("host=") + 5;
+  const std::string ordre = "bash '" CARPETA_SERVIDOR "/caiguda' " + que + " '" +
+                            adreca.substr(carpeta, adreca.find('&', carpeta) - carpeta) + "'";
+  if (std::system(ordre.c_str()) != 0) throw std::runtime_error("failed: " + ordre);
+}
+
+}  // namespace
+
+void Matar_Servidor() {
+  Caiguda("matar");
+}
+
+void Tornar_A_Engegar_Servidor() {
+  Caiguda("tornar");
+}
+
 bool Proves_Al_Servidor() {
   const char* motor = std::getenv("BROLLADOR_MOTOR");
   return motor != nullptr && std::string(motor) == "postgres";

@@ -7,6 +7,10 @@
 // The server runs, and processes started from here on find it.
 void Assegurar_Servidor();
 
+// It ends as in a power cut, and is started again as it was.
+void Matar_Servidor();
+void Tornar_A_Engegar_Servidor();
+
 // Tests are to run on the server: BROLLADOR_MOTOR=postgres.
 bool Proves_Al_Servidor();
 // For a test of what only a file has: passed over on the server.

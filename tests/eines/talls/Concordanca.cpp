@@ -5,6 +5,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
 #include "documents/M_Peu.h"
+#include "payments/M_Flags.h"
 #include "sales/M_Tipus_Venda.h"
 #include "tests/eines/talls/Magatzem_De_Prova.h"
 
@@ -79,6 +80,43 @@ void Comparar_Servides(Queixes& queixes) {
   }
 }
 
+std::vector<std::int64_t> Numeros(const std::string& sentencia) {
+  std::vector<std::int64_t> numeros;
+  for (Recordset rs(sentencia, sessio.Connexio_Comuna); !rs.Eof(); rs.MoveNext()) numeros.push_back(rs[0].Enter());
+  return numeros;
+}
+
+// Money stands at one level only: on the note, or on every order that it serves.
+void Comparar_Flags_De_Nota(Queixes& queixes, std::int64_t nota) {
+  if (Comptar_Linies(tipus_albara, nota, empresa) == 0) return;
+  const std::string numero = std::to_string(nota);
+  bool a_les_comandes = false;
+  for (const std::int64_t comanda :
+       Numeros("SELECT DISTINCT COMANDA_AL FROM ALBARALIN WHERE COMANDA_AL <> 0 AND NUMALB_AL = " + numero)) {
+    if (!Flag_Pagament("P", comanda)) continue;
+    a_les_comandes = true;
+    if (Flag_Pagament("A", nota))
+      queixes.push_back("flags of note " + numero + ": its order " + std::to_string(comanda) + " has it too");
+  }
+  if (!a_les_comandes && !Flag_Pagament("A", nota)) queixes.push_back("flags of note " + numero + ": nobody has it");
+}
+
+void Comparar_Flags(Queixes& queixes) {
+  for (int nota = 1; nota <= notes; ++nota) Comparar_Flags_De_Nota(queixes, nota);
+  for (int comanda = 1; comanda <= comandes; ++comanda) {
+    const std::string numero = std::to_string(comanda);
+    const bool servida = !Numeros("SELECT NUMALB_AL FROM ALBARALIN WHERE COMANDA_AL = " + numero).empty();
+    if (!servida && !Flag_Pagament("P", comanda)) queixes.push_back("order " + numero + " alone has no flag");
+  }
+  for (const std::string document : {"P", "A"}) {
+    for (const std::int64_t numero :
+         Numeros("SELECT DISTINCT NUMALB_PAG FROM PAGAMENTS WHERE DOCUMENT_PAG = " + Text_SQL(document))) {
+      if (!Flag_Pagament(document, numero))
+        queixes.push_back("payments of " + document + " " + std::to_string(numero) + ", which has no flag");
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<std::string> Discordances() {
@@ -93,6 +131,7 @@ std::vector<std::string> Discordances() {
   }
   for (const Article_Prova& article : Articles()) Comparar_Estoc(queixes, article);
   Comparar_Servides(queixes);
+  Comparar_Flags(queixes);
   return queixes;
 }
 

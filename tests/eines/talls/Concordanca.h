@@ -1,4 +1,4 @@
-// Do lines, foot, stock, journal and served units of a company tell one story, and is its file sound.
+// Do lines, foot, stock, journal, served units and payment flags of a company tell one story, and is its file sound.
 #pragma once
 
 #include <string>

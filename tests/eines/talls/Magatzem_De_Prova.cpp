@@ -7,10 +7,6 @@ namespace talls {
 
 namespace {
 
-std::string Comuna(const std::string& carpeta) {
-  return carpeta + "/comuna.db";
-}
-
 void Crear_Articles(Connexio& comuna) {
   for (const Article_Prova& article : Articles()) {
     const std::string codi = Text_SQL(article.codi);
@@ -38,8 +34,8 @@ void Crear_Documents(Connexio& comuna) {
         std::to_string(nota) + ", 'B00000000', #3/1/2011#, 'C1', 'Client de prova', -1, " +
         (nota % 2 == 0 ? "-1" : "0") + ", '')");
   for (int comanda = 1; comanda <= comandes; ++comanda) {
-    comuna.Execute("INSERT INTO COMANDACAP (NUMALB_CC, EMPRESA_CC, DATA_CC, CLIENT_CC, IVA_CC) VALUES (" +
-                   std::to_string(comanda) + ", 'B00000000', #3/1/2011#, 'C1', -1)");
+    comuna.Execute("INSERT INTO COMANDACAP (NUMALB_CC, EMPRESA_CC, DATA_CC, CLIENT_CC, IVA_CC, PAGAMENT_CC) VALUES (" +
+                   std::to_string(comanda) + ", 'B00000000', #3/1/2011#, 'C1', -1, -1)");
     for (std::size_t linia = 1; linia <= Articles().size(); ++linia)
       comuna.Execute(
           "INSERT INTO COMANDALIN (NUMALB_CL, EMPRESA_CL, LIN_CL, ARTICLE_CL, UNITATS_CL, SERVIDES_CL) "
@@ -59,10 +55,10 @@ const std::vector<Article_Prova>& Articles() {
   return articles;
 }
 
-void Crear_Magatzem(const std::string& carpeta) {
-  Crear_Base(carpeta, Comuna(carpeta));
+void Crear_Magatzem(const Lloc& lloc) {
+  Crear_Base(lloc.carpeta, lloc.comuna);
   Connexio comuna;
-  comuna.Open(Comuna(carpeta));
+  comuna.Open(lloc.comuna);
   Transaccio transaccio(comuna);
   comuna.Execute("INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI, IVA_CLI) VALUES ('C1', 'Client de prova', -1)");
   Crear_Articles(comuna);
@@ -75,15 +71,15 @@ Resposta Pantalla_Muda::Obrir_Caixa(const std::string& text, int, const std::str
   return Resposta::Ok;
 }
 
-void Obrir_Sessio(const std::string& carpeta, Pantalla& pantalla) {
+void Obrir_Sessio(const Lloc& lloc, Pantalla& pantalla) {
   sessio.pantalla = &pantalla;
   sessio.Equip_Actual = "prova/talls";
   sessio.Usuari_Actual = "ADMIN";
   sessio.Empresa_Actual = empresa;
   sessio.Nom_Empresa = "Empresa de prova";
   sessio.P_Comandes = sessio.P_Albarans = "M";
-  sessio.Connexio_Comuna.Open(Comuna(carpeta));
-  sessio.Connexio_Local.Open(carpeta + "/dadeslocals.db");
+  sessio.Connexio_Comuna.Open(lloc.comuna);
+  sessio.Connexio_Local.Open(lloc.carpeta + "/dadeslocals.db");
 }
 
 }  // namespace talls

@@ -21,8 +21,13 @@ struct Article_Prova {
 };
 const std::vector<Article_Prova>& Articles();
 
-// On a base installation in `carpeta`.
-void Crear_Magatzem(const std::string& carpeta);
+// The data folder of a terminal and the address of what all share.
+struct Lloc {
+  std::string carpeta;
+  std::string comuna;
+};
+// On a base installation there.
+void Crear_Magatzem(const Lloc& lloc);
 
 // Answers every question with OK and keeps what errors it was shown.
 class Pantalla_Muda : public Pantalla {
@@ -43,6 +48,6 @@ class Pantalla_Muda : public Pantalla {
 };
 
 // The session of a user at work on the installation, as after a login.
-void Obrir_Sessio(const std::string& carpeta, Pantalla& pantalla);
+void Obrir_Sessio(const Lloc& lloc, Pantalla& pantalla);
 
 }  // namespace talls

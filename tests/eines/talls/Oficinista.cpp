@@ -31,7 +31,7 @@ Oficinista::Oficinista(std::mt19937& atzar) : atzar_(atzar), terminal_("prova_te
 }
 
 void Oficinista::Treballar(Moment fins) {
-  while (Afegir(fins) && (Qualsevol(0, 3) == 0 || Esborrar(fins))) {
+  while (Afegir(fins) && (Qualsevol(0, 3) == 0 || Pagar(fins)) && (Qualsevol(0, 3) == 0 || Esborrar(fins))) {
   }
 }
 
@@ -63,6 +63,14 @@ bool Oficinista::Esborrar(Moment fins) {
   if (!Fer(Ordre({"row", "F_Albara.G_ALBLIN", "1"}), fins)) return false;
   if (resposta_.starts_with("{\"error\"")) return true;
   return Fer(Ordre({"answer", "OK"}), fins) && Fer(Ordre({"press", "F_Albara.B_EsborrarLinia"}), fins);
+}
+
+// A note whose orders are paid has no payments: the terminal says so, and the commands that follow fail.
+bool Oficinista::Pagar(Moment fins) {
+  if (!Fer(Ordre({"press", "F_Albara.B_Pagaments"}), fins)) return false;
+  return Fer(Ordre({"cell", "F_PagDoc.G_PagDoc", "new", "PAGAMENT_PAG", "Efectiu"}), fins) &&
+         Fer(Ordre({"cell", "F_PagDoc.G_PagDoc", "new", "IMPORT_PAG", "0,01"}), fins) &&
+         Fer(Ordre({"press", "F_PagDoc.B_Exit"}), fins);
 }
 
 int Oficinista::Qualsevol(int des_de, int fins_a) {

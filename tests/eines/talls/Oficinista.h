@@ -1,5 +1,5 @@
 // The person at the terminal that is killed: opens a delivery note on the real screens and adds and deletes lines
-// of it, key by key, until the moment comes.
+// and payments of it, key by key, until the moment comes.
 #pragma once
 
 #include <random>
@@ -24,6 +24,7 @@ class Oficinista {
   void Fer_O_Fallar(const std::string& ordre);
   bool Afegir(Moment fins);
   bool Esborrar(Moment fins);
+  bool Pagar(Moment fins);
   int Qualsevol(int des_de, int fins_a);
 
   std::mt19937& atzar_;

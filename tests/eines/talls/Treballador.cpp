@@ -5,6 +5,8 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "documents/M_Peu.h"
+#include "payments/M_Flags.h"
+#include "payments/M_Pagaments.h"
 #include "sales/M_Albarans.h"
 #include "sales/M_Tipus_Venda.h"
 #include "tests/eines/talls/Magatzem_De_Prova.h"
@@ -34,6 +36,7 @@ class Treballador {
   explicit Treballador(std::uint32_t llavor) : atzar_(llavor) {}
 
   void Un_Pas() {
+    if (Qualsevol(0, 4) == 0) return Pagar();
     const std::int64_t nota = Qualsevol(1, notes);
     const std::int64_t linies = Comptar_Linies_Albara(nota, empresa);
     if (linies > 0 && (linies > 8 || Qualsevol(0, 2) == 0)) {
@@ -62,7 +65,8 @@ class Treballador {
     return linia;
   }
 
-  // A shortage of stock is part of the work: the line is refused and nothing of it may stay.
+  // A shortage of stock, or a note whose orders are paid, is part of the work: the line is refused and nothing of it
+  // may stay.
   void Afegir(std::int64_t nota) {
     sessio.Error_Mostrat = false;
     Formulari_Mut formulari(nota % 2 == 0);
@@ -77,7 +81,37 @@ class Treballador {
     }
   }
 
+  // Nor may a line stay gone whose chain is not as it should be.
   void Esborrar(std::int64_t nota) {
+    try {
+      Esborrar_Una_Linia(nota);
+    } catch (const Error_Brollador& error) {
+      if (error.Numero() != errors::refusat) throw;
+    }
+  }
+
+  // A payment where the flag lets it, or one less; its walk is a transaction of its own.
+  void Pagar() {
+    const bool comanda = Qualsevol(0, 2) == 0;
+    const std::string document = comanda ? "P" : "A";
+    const std::int64_t numero = Qualsevol(1, comanda ? comandes : notes);
+    if (!Flag_Pagament(document, numero)) return;
+    Recordset pagaments(SQL_Pagaments_Document(document, numero), sessio.Connexio_Comuna, Bloqueig::Pessimista);
+    if (pagaments.RecordCount() > 0 && Qualsevol(0, 1) == 0) {
+      Esborrar_Pagament(pagaments["ID_PAG"].Enter());
+    } else {
+      pagaments.AddNew();
+      pagaments.Set("DOCUMENT_PAG", document);
+      pagaments.Set("NUMALB_PAG", numero);
+      pagaments.Set("EMPRESA_PAG", empresa);
+      pagaments.Set("PAGAMENT_PAG", "EF");
+      pagaments.Set("IMPORT_PAG", 1.0);
+      pagaments.Update();
+    }
+    Propagar_Flag_Pagaments(document, numero);
+  }
+
+  void Esborrar_Una_Linia(std::int64_t nota) {
     Formulari_Mut formulari(nota % 2 == 0);
     Transaccio transaccio(sessio.Connexio_Comuna);
     Recordset linies(SQL_Linies(tipus_albara, nota, empresa), sessio.Connexio_Comuna);
@@ -86,6 +120,7 @@ class Treballador {
                           linies["ARTICLE_AL"].Text(), linies["UNITATS_AL"].Doble());
     Buidar_Peu(tipus_albara, nota, empresa);
     Calcular_Peu(tipus_albara, nota, empresa, formulari);
+    Propagar_Flag_Pagaments("A", nota);
     transaccio.Confirmar();
   }
 
@@ -94,10 +129,10 @@ class Treballador {
 
 }  // namespace
 
-std::string Treballar_Sense_Fi(const std::string& carpeta, std::uint32_t llavor) {
+std::string Treballar_Sense_Fi(const Lloc& lloc, std::uint32_t llavor) {
   try {
     Pantalla_Muda pantalla;
-    Obrir_Sessio(carpeta, pantalla);
+    Obrir_Sessio(lloc, pantalla);
     Treballador treballador(llavor);
     std::puts("begun");
     std::fflush(stdout);
