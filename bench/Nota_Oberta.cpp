@@ -43,6 +43,7 @@ Nota_Oberta::Nota_Oberta(std::int64_t numero)
 }
 
 void Nota_Oberta::Afegir(const Linia_Entrada& linia) {
+  linies_.CancelUpdate();  // of one that failed
   Transaccio transaccio(sessio.Connexio_Comuna);
   Afegir_Linia_Albara(cap_, linia, linies_, *this);
   transaccio.Confirmar();

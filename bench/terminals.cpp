@@ -228,7 +228,9 @@ int main() try {
     setenv("BROLLADOR_MOTOR", "sqlite", 1);
     Mesurar("one file", terminals);
   }
-  std::printf("Nothing was lost: stock, journal, lines and feet agree after each of them, and no lock is left.\n");
+  std::printf(
+      "Nothing was lost: stock, journal, lines, feet, served units and flags agree after each of them, and no lock is "
+      "left.\n");
   return 0;
 } catch (const std::exception& error) {
   std::fprintf(stderr, "%s\n", error.what());
