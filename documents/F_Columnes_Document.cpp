@@ -15,7 +15,7 @@ constexpr Columna_Graella papers_de_linies[] = {
     {"EMPRESA", 0, ""},
     {"LIN", 700, "Línia", true},
     {"ARTICLE", 1400, "Article"},
-    {"DESCRIPCIO", 3500, "Descripció"},
+    {.camp = "DESCRIPCIO", .amplada = 3100, .titol = "Descripció", .creix = true},
     {"PREU_UNITARI", 1300, "Preu Unitari", true, imports},
     {"UNITATS", 1050, "Unitats", true, imports},
     {"PORC_IVA", 850, "IVA %", true, imports},
@@ -34,7 +34,7 @@ constexpr Columna_Graella papers_de_linies[] = {
 };
 
 constexpr Columna_Graella papers_de_peu[] = {
-    {"TIPUS_IVA", 900, "Tipus"},           {"DESC_IVA", 3000, "Descripció"},
+    {"TIPUS_IVA", 900, "Tipus"},           {.camp = "DESC_IVA", .amplada = 3000, .titol = "Descripció", .creix = true},
     {"BASE", 1600, "Base", true, imports}, {"PORC_IVA", 1100, "% IVA", true, imports},
     {"IVA", 1500, "IVA", true, imports},   {"PORC_RE", 1100, "% RE", true, imports},
     {"RE", 1500, "RE", true, imports},     {"IMPORT", 1700, "Import", true, imports},

@@ -42,8 +42,8 @@ void Editor_Document::Muntar() {
   nova_ = Control_De_Nom<QGroupBox>(QStringLiteral("FR_NOVA"));
   opcions_ = findChild<Grup_Opcions*>(QStringLiteral("OPT"));
   graella_linies_ = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella_linies));
+  graella_linies_->Permetre_Ordre(false);  // the order of lines is the document's
   graella_linies_->Columnes(Columnes_De_Linies(Tipus(), descripcio_.columnes_linies));
-  graella_linies_->horizontalHeader()->setSectionsClickable(false);  // the order of lines is the document's
   if (descripcio_.graella_peu != nullptr) {
     graella_peu_ = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella_peu));
     graella_peu_->Columnes(Columnes_De_Peu(Tipus()));

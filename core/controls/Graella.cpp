@@ -196,9 +196,9 @@ void Graella::Mostrar_Ordre() {
 
 // ---- Widths -----------------------------------------------------------------------------------------------------
 
-// What the column asks for, or what its title does with the arrow of the order.
+// What the column asks for, or what its title does, with the arrow of the order where there may be one.
 int Graella::Amplada_Propia(int columna) const {
-  constexpr int voltant = 24;
+  const int voltant = horizontalHeader()->isSortIndicatorShown() ? 24 : 12;
   const int titol = fontMetrics().horizontalAdvance(model_->Titol(columna)) + voltant;
   return std::max(model_->Columnes()[static_cast<std::size_t>(columna)].amplada / twips_per_pixel, titol);
 }
@@ -224,16 +224,25 @@ void Graella::Canviada_D_Amplada(int columna, int amplada) {
   Omplir_Amplada();
 }
 
-// The last column takes what the others leave, and never less than it was given.
+// One that the user made wider or narrower stays so.
+int Graella::Columna_Que_Creix() const {
+  const auto& columnes = model_->Columnes();
+  const auto que = std::ranges::find(columnes, true, &Columna_Graella::creix);
+  const int columna = que == columnes.end() ? -1 : static_cast<int>(que - columnes.begin());
+  const bool propia = columna >= 0 && !isColumnHidden(columna) && Amplada_Donada(columna) == Amplada_Propia(columna);
+  return propia ? columna : Columna_Visible(true);
+}
+
+// One column takes what the others leave, and never less than it was given.
 void Graella::Omplir_Amplada() {
-  const int ultima = Columna_Visible(true);
-  if (omplint_ || ultima < 0) return;
+  const int creix = Columna_Que_Creix();
+  if (omplint_ || creix < 0) return;
   const QScopedValueRollback guarda(omplint_, true);
   for (int columna = 0; columna < horizontalHeader()->count(); ++columna) {
     if (!isColumnHidden(columna)) setColumnWidth(columna, Amplada_Donada(columna));
   }
   const int resta = viewport()->width() - horizontalHeader()->length();
-  if (resta > 0) setColumnWidth(ultima, Amplada_Donada(ultima) + resta);
+  if (resta > 0) setColumnWidth(creix, Amplada_Donada(creix) + resta);
 }
 
 void Graella::resizeEvent(QResizeEvent* event) {

@@ -26,6 +26,7 @@ struct Columna_Graella {
   bool casella = false;      // a boolean, shown as a tick
   bool opcional = false;     // hidden when the statement does not give its field
   bool fixa = false;         // never typed, also where rows are edited in place
+  bool creix = false;        // takes the room that all leave; where none does, the last one
 };
 
 // What a combo column takes: a code, and the text that it shows.
@@ -72,7 +73,7 @@ class Graella : public QTableView {
   Valor Valor_Actual(const char* camp) const;      // of the current row; null without one
   void Titol_Columna(int index, const QString& titol);
   QString Titol_Columna(int index) const;
-  int Amplada_Donada(int columna) const;  // pixels, before the last column takes what is left of the width
+  int Amplada_Donada(int columna) const;  // pixels, before one takes what is left of the width
 
   // A list of which several rows are taken: it opens with a current row, in a frame, and no selected one.
   void Seleccio_Multiple(bool multiple);
@@ -129,6 +130,7 @@ class Graella : public QTableView {
   int Amplada_Propia(int columna) const;
   int Columna_Visible(bool ultima) const;
   void Canviada_D_Amplada(int columna, int amplada);
+  int Columna_Que_Creix() const;
   void Omplir_Amplada();
   void Mostrar_Ordre();
   // Where the user is.

@@ -78,6 +78,18 @@ TEST_F(Graella_Sota_La_Ma, The_last_column_takes_what_the_others_leave) {
   EXPECT_GT(graella.horizontalHeader()->length(), graella.viewport()->width());
 }
 
+TEST_F(Graella_Sota_La_Ma, A_column_that_grows_takes_the_room_until_the_user_gives_it_a_width) {
+  graella.Columnes({{"CODI_ART", 1500, "Codi"},
+                    {.camp = "DESCRIPCIO_ART", .amplada = 1500, .titol = "Descripció", .creix = true},
+                    {"COST_ART", 1200, "Cost", true, "#,##0.00"}});
+  const int sobra = graella.viewport()->width() - 1500 / 15 - 1200 / 15;
+  EXPECT_EQ(graella.columnWidth(1), sobra);
+  EXPECT_EQ(graella.columnWidth(2), 1200 / 15);
+  graella.setColumnWidth(1, 150);
+  EXPECT_EQ(graella.columnWidth(1), 150);
+  EXPECT_EQ(graella.horizontalHeader()->length(), graella.viewport()->width());
+}
+
 TEST_F(Graella_Sota_La_Ma, What_fills_the_width_is_not_remembered_as_the_users) {
   graella.Desar_Amplades();
   graella.Recuperar_Amplades();
