@@ -32,6 +32,7 @@ struct Parella {
 
 // The subjects, each in its file.
 std::vector<Figura> Mesurar_Linia_Albara();
+std::vector<Figura> Mesurar_Linia_Per_Tecles();
 std::vector<Figura> Mesurar_Servidor();
 std::vector<Figura> Mesurar_Llista_Albarans();
 std::vector<Figura> Mesurar_Llista_Mestres();

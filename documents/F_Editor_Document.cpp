@@ -309,7 +309,7 @@ bool Editor_Document::Desar_Linia() {
           passatger = error.Es_Passatger();
           throw;
         }
-        graella_linies_->Refrescar();
+        graella_linies_->Mostrar_Fila_Afegida();
         Aplicar_Estat();
         bloquejat_.reset();
         Alliberar_Entrada();

@@ -136,11 +136,16 @@ void Entrada_Linia::Continuar_Comanda() {
   Posar_Focus(unitats_);
 }
 
+// The next line begins where this one ends: what stands after the quantity is not passed on the way.
 bool Entrada_Linia::eventFilter(QObject* objecte, QEvent* event) {
-  if (objecte == unitats_ && event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+  if (objecte != unitats_ || event->type() != QEvent::KeyPress) return QObject::eventFilter(objecte, event);
+  const auto* tecla = static_cast<const QKeyEvent*>(event);
+  if (tecla->key() == Qt::Key_Escape) {
     Netejar();
-    return true;
+  } else if (tecla->key() == Qt::Key_Tab && tecla->modifiers() == Qt::NoModifier) {
+    article_->setFocus(Qt::TabFocusReason);
+  } else {
+    return false;
   }
-  return QObject::eventFilter(objecte, event);
+  return true;
 }

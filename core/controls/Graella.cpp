@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <algorithm>
+#include <utility>
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Delegat_Graella.h"
@@ -98,6 +99,27 @@ void Graella::Refrescar() {
   model_->Refrescar();
   if (posicio > 0) Anar_A_Fila(posicio - 1);
   Q_EMIT Compte_Canviat();
+}
+
+void Graella::Mostrar_Fila_Afegida() {
+  const std::int64_t ultima = Files() - 1;
+  const Recordset* rs = model_->Lligat();
+  const bool es_una_mes = ultima > 0 && verticalHeader()->count() == ultima && rs->AbsolutePosition() == ultima + 1;
+  if (!es_una_mes || model_->Permet_Canvis() || isHidden()) return Refrescar();
+  nomes_afegida_ = true;
+  model_->Mostrar_Fila_Afegida();
+  Anar_A_Fila(ultima);
+  Q_EMIT Compte_Canviat();
+}
+
+// The toolkit paints everything anew for a row that only the last place has changed for.
+void Graella::doItemsLayout() {
+  if (!std::exchange(nomes_afegida_, false)) return QTableView::doItemsLayout();
+  const int desplacament = verticalHeader()->offset();
+  updateGeometries();
+  if (verticalHeader()->offset() != desplacament) viewport()->scroll(0, desplacament - verticalHeader()->offset());
+  const int ultima = model_->Files() - 1;
+  viewport()->update(0, rowViewportPosition(ultima), viewport()->width(), rowHeight(ultima));
 }
 
 void Graella::Estil_De_Fila(std::function<QString(std::int64_t fila)> estil) {

@@ -52,12 +52,15 @@ class Graella : public QTableView {
  public:
   explicit Graella(QWidget* pare = nullptr);
   void keyboardSearch(const QString& lletres) override;
+  void doItemsLayout() override;
 
   void Columnes(const std::vector<Columna_Graella>& columnes);
   // Shows the recordset (owned by the form). Null detaches.
   void Lligar(Recordset* rs);
   // After a requery or a filter: repaints and follows the recordset's current row.
   void Refrescar();
+  // After a row has been added at the end: it is the current one, and only it is painted.
+  void Mostrar_Fila_Afegida();
   // The style of a row, by its number from 0: the name of one of the styles, or empty.
   void Estil_De_Fila(std::function<QString(std::int64_t fila)> estil);
 
@@ -154,6 +157,7 @@ class Graella : public QTableView {
   Model_Recordset* model_;
   std::vector<int> amplades_;  // given by the description or by the user; 0: hidden
   bool omplint_ = false;
+  bool nomes_afegida_ = false;  // the layout under way is for a row at the end
   bool desant_ = false;
   bool multiple_ = false;
   bool de_triar_ = false;

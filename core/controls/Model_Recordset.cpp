@@ -39,6 +39,11 @@ void Model_Recordset::Lligar(Recordset* rs) {
   endResetModel();
 }
 
+void Model_Recordset::Mostrar_Fila_Afegida() {
+  beginInsertRows({}, Files() - 1, Files() - 1);
+  endInsertRows();
+}
+
 int Model_Recordset::Camp_De_Columna(const Columna_Graella& columna) const {
   const auto es = [&](const Camp& camp) { return camp.nom == columna.camp; };
   if (columna.opcional && std::none_of(rs_->Fields().begin(), rs_->Fields().end(), es)) return -1;

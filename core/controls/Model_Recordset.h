@@ -24,6 +24,7 @@ class Model_Recordset : public QAbstractTableModel {
   const std::vector<Columna_Graella>& Columnes() const { return columnes_; }
   void Lligar(Recordset* rs);
   void Refrescar() { Lligar(rs_); }
+  void Mostrar_Fila_Afegida();  // the recordset has one row more, the last one
   Recordset* Lligat() const { return rs_; }
   void Titol(int columna, const QString& titol);
   QString Titol(int columna) const { return titols_.value(columna); }

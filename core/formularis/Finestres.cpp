@@ -1,6 +1,7 @@
 #include "core/formularis/Finestres.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -62,6 +63,20 @@ void Treure_Dreceres(QMdiSubWindow* finestra) {
   for (QAction* accio : menu->actions()) accio->setShortcut({});
 }
 
+// The toolkit paints the frame of the window in front anew whenever its focus goes from one field to another. It only
+// has to be told of what may bring another window to the front.
+void No_Repintar_El_Marc(QMdiSubWindow* finestra) {
+  constexpr const char* rutina = "_q_processFocusChanged";
+  if (finestra->metaObject()->indexOfMethod("_q_processFocusChanged(QWidget*,QWidget*)") < 0) return;
+  QObject::disconnect(qApp, &QApplication::focusChanged, finestra, nullptr);
+  QObject::connect(qApp, &QApplication::focusChanged, finestra, [finestra](QWidget* abans, QWidget* ara) {
+    const QMdiArea* area = finestra->mdiArea();
+    const bool es_davant = area != nullptr && area->activeSubWindow() == finestra;
+    if (ara == nullptr || (es_davant && ara != finestra)) return;
+    QMetaObject::invokeMethod(finestra, rutina, Q_ARG(QWidget*, abans), Q_ARG(QWidget*, ara));
+  });
+}
+
 void Encabir(QMdiSubWindow* finestra, const QSize& lloc) {
   const bool era_seva = Mida_De_L_Usuari(finestra);
   const QSize mida = finestra->size().boundedTo(lloc);
@@ -84,6 +99,7 @@ void Collocar(QMdiArea& area, Formulari* formulari) {
   QMdiSubWindow* finestra = area.addSubWindow(formulari);
   finestra->setAttribute(Qt::WA_DeleteOnClose);
   Treure_Dreceres(finestra);
+  No_Repintar_El_Marc(finestra);
   if (formulari->Sempre_A_Dalt()) {
     finestra->setWindowFlag(Qt::WindowStaysOnTopHint);
     finestra->setWindowFlag(Qt::WindowMaximizeButtonHint, false);
