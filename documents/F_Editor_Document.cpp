@@ -12,6 +12,7 @@
 #include "core/controls/Focus_Camps.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Formularis_Oberts.h"
+#include "documents/F_Obrir_Document.h"
 #include "documents/M_Linies_Document.h"
 #include "documents/M_Peu.h"
 #include "session/M_Locks.h"
@@ -194,7 +195,7 @@ void Editor_Document::Aplicar_Estat() {
   };
   for (const char* nom : descripcio_.fixats) treure(cap_->Control(QString::fromUtf8(nom)), cap_obert);
   if (descripcio_.qui != nullptr) {
-    treure(Boto(descripcio_.qui->boto), te_linies ? !Bloquejat() : cap_obert);
+    treure(Boto(descripcio_.qui->boto), te_linies ? Dret() != "C" && !Bloquejat() : cap_obert);
   }
   const bool tancat = Tancat();
   for (const char* nom : {"B_AMUNT", "B_AVALL"}) {
@@ -241,10 +242,11 @@ bool Editor_Document::Acceptar_Numero() {
     if (!es_el_mateix) Canviar_Numero(*escrit);
     mostrar();
     return true;
-  } catch (const Error_Brollador&) {
+  } catch (const Error_Brollador& error) {
     cap_->Cancellar();
     mostrar();
     Retenir_Focus(camp);
+    if (error.Numero() == errors::refusat) Mostrar_Refus(error);  // as where a document is opened
     throw;
   }
 }
