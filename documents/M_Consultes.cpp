@@ -146,11 +146,3 @@ std::string Condicions(const std::vector<Criteri>& criteris, const Valors_Cerca&
   }
   return condicions;
 }
-
-std::string Condicio_Data(const std::optional<Data_Hora>& des_de, const std::optional<Data_Hora>& fins_a,
-                          const std::string& camp) {
-  if (des_de && fins_a) return camp + " BETWEEN " + Data_SQL(*des_de) + " AND " + Data_SQL(*fins_a);
-  if (des_de) return camp + " >= " + Data_SQL(*des_de);
-  if (fins_a) return camp + " <= " + Data_SQL(*fins_a);
-  return {};
-}

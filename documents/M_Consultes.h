@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "core/M_Condicions.h"
 #include "documents/Documents.h"
 
 // How a criterion becomes a condition. A range has two controls, its name with _ENTRE and with _Y.
@@ -59,5 +60,3 @@ struct Descripcio_Consulta {
 std::string Consulta(const Descripcio_Consulta& descripcio, const Valors_Cerca& valors, bool llarga = false);
 // " AND ..." for each row that is a condition, in their order: those on the lines, or the others.
 std::string Condicions(const std::vector<Criteri>& criteris, const Valors_Cerca& valors, bool de_linies = false);
-std::string Condicio_Data(const std::optional<Data_Hora>& des_de, const std::optional<Data_Hora>& fins_a,
-                          const std::string& camp);

@@ -5,6 +5,7 @@
 #include <limits>
 #include <vector>
 
+#include "core/M_Condicions.h"
 #include "core/M_Funcions_Comuns.h"
 #include "core/M_Mestres.h"
 #include "core/dades/Dates.h"
@@ -90,15 +91,13 @@ std::string Text_Venciments(const Condicions& condicions, const Data_Hora& data,
 
 // ---- Birthdays
 
-// Placed in this year: a window over the New Year misses those of January.
 std::string Sentencia_Aniversaris(int dies) {
   const Data_Hora avui = Avui();
   const Data_Hora final = Data_Serial(avui.any, avui.mes, avui.dia + dies);
   return "SELECT NIF_CLI, RAO_SOCIAL_CLI, LOCALITAT_CLI, NAIXEMENT_CLID, TELEFON_CLI, MOBIL_CLI, EMAIL_CLI"
          " FROM CLIENTS INNER JOIN CLIENTS_DADES ON (CLIENTS.RAO_SOCIAL_CLI = CLIENTS_DADES.CLIENT_DESC_CLID)"
-         " AND (CLIENTS.NIF_CLI = CLIENTS_DADES.NIF_CLID) WHERE NAIXEMENT_CLID IS NOT NULL AND DATESERIAL(" +
-         std::to_string(avui.any) + ",DATEPART('m',NAIXEMENT_CLID),DATEPART('d',NAIXEMENT_CLID)) BETWEEN " +
-         Data_SQL(avui) + " AND " + Data_SQL(final);
+         " AND (CLIENTS.NIF_CLI = CLIENTS_DADES.NIF_CLID) WHERE " +
+         Condicio_Aniversari(avui, final, "NAIXEMENT_CLID");
 }
 
 std::string Amb_Nom(const std::string& text) {
