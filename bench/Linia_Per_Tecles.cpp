@@ -5,6 +5,7 @@
 #include <QTest>
 #include <ctime>
 
+#include "bench/Base_Nua.h"
 #include "bench/Mesura.h"
 #include "bench/Nota_Oberta.h"
 #include "core/M_Funcions_Comuns.h"
@@ -33,6 +34,27 @@ struct Cost {
   std::vector<double> rellotge;
   std::vector<double> processador;
   std::vector<double> pintat;  // windows
+};
+
+// What a note reads when it is opened, without a window.
+class Lectures_Nues {
+ public:
+  explicit Lectures_Nues(Base_Nua& base) : base_(base) {}
+  void Fer(std::int64_t numero) {
+    for (Sentencia_Nua* sentencia : {&cap_, &linies_, &peu_}) {
+      for (sentencia->Amb(numero, std::string_view(empresa_mesura)); sentencia->Fila();) ++files_;
+    }
+    for (clients_.Amb(); clients_.Fila();) ++files_;
+    base_.Reposar();
+  }
+
+ private:
+  Base_Nua& base_;
+  std::int64_t files_ = 0;
+  Sentencia_Nua cap_{base_, "SELECT * FROM ALBARACAP WHERE NUMALB_AC = ?1 AND EMPRESA_AC = ?2"};
+  Sentencia_Nua linies_{base_, "SELECT * FROM ALBARALIN WHERE NUMALB_AL = ?1 AND EMPRESA_AL = ?2 ORDER BY LIN_AL"};
+  Sentencia_Nua peu_{base_, "SELECT * FROM ALBARAPEU WHERE NUMALB_AP = ?1 AND EMPRESA_AP = ?2 ORDER BY TIPUS_IVA_AP"};
+  Sentencia_Nua clients_{base_, "SELECT NIF_CLI, RAO_SOCIAL_CLI FROM CLIENTS ORDER BY RAO_SOCIAL_CLI"};
 };
 
 class Oficina {
@@ -84,6 +106,27 @@ class Oficina {
     Assentar();
     Camp<QLineEdit>("TXT_ARTICLE_AL")->setFocus();
     Assentar();
+  }
+  // The note that is open, opened again and closed as it is.
+  static Parella Mesurar_Obrir_I_Tancar() {
+    const Valor numero = Formulari_De_Nom(QStringLiteral("F_ALBARA"))->Document()->Numero_Document();
+    Descarregar_Formulari(QStringLiteral("F_ALBARA"));
+    Assentar();
+    Base_Nua base(sessio.Fitxer_Comu);
+    Lectures_Nues lectures(base);
+    Parella parella;
+    for (int i = 0; i < notes; ++i) {
+      const double abans = Mil_Segons_De_Processador();
+      sessio.Numero_Albara = numero;
+      Obrir(QStringLiteral("F_ALBARA"));
+      Descarregar_Formulari(QStringLiteral("F_ALBARA"));
+      Assentar();
+      const double enmig = Mil_Segons_De_Processador();
+      lectures.Fer(numero.Enter());
+      parella.nostre.push_back(enmig - abans);
+      parella.nu.push_back(Mil_Segons_De_Processador() - enmig);
+    }
+    return parella;
   }
   void Mesurar_Linia(int n, Cost& cost) {
     comptador_.Comencar();
@@ -162,6 +205,7 @@ std::vector<Figura> Mesurar_Linia_Per_Tecles() {
     oficina.Mesurar_Linia(2, primeres);
     for (int k = 3; k <= 5; ++k) oficina.Mesurar_Linia(k, quatre_centes);
   }
+  const Parella obrir = Oficina::Mesurar_Obrir_I_Tancar();
   const auto figura = [](const char* nom, const std::vector<double>& nostre, double nu, double limit) {
     return Figura{nom, Amb_Decimals(Mediana(nostre), 2) + " ms", Amb_Decimals(nu, 2) + " ms", Mediana(nostre) / nu,
                   limit};
@@ -177,5 +221,6 @@ std::vector<Figura> Mesurar_Linia_Per_Tecles() {
        Mediana(quatre_centes.pintat), 0.5},
       figura("line by keys: wall of the 400th, against the 4th", quatre_centes.rellotge, Mediana(quarta.rellotge), 1.2),
       figura("line by keys: processor of the 400th, against the 4th", quatre_centes.processador,
-             Mediana(quarta.processador), 1.2)};
+             Mediana(quarta.processador), 1.2),
+      obrir.Fer_Figura("note of 400 lines opened and closed as it is, processor (bare: its reads)", "ms", {})};
 }
