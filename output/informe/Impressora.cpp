@@ -1,5 +1,6 @@
 #include "output/informe/Impressora.h"
 
+#include <QPageRanges>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -23,12 +24,28 @@ void Preparar_Impressora(const Pagines& pagines, QPrinter& impressora) {
   impressora.setDocName(pagines.titol);
 }
 
+std::vector<int> Pagines_Demanades(const Pagines& pagines, const QPrinter& impressora) {
+  std::vector<int> demanades = Totes_Les_Pagines(pagines);
+  const QPageRanges trams = impressora.pageRanges();
+  if (impressora.printRange() == QPrinter::PageRange && !trams.isEmpty())
+    std::erase_if(demanades, [&](int pagina) { return !trams.contains(pagina); });
+  if (impressora.pageOrder() == QPrinter::LastPageFirst) std::reverse(demanades.begin(), demanades.end());
+  return demanades;
+}
+
 void Enviar_A_Impressora(const Pagines& pagines, QPrinter& impressora) {
-  const int darrera = static_cast<int>(pagines.pagines.size()) - 1;
-  const bool tram = impressora.printRange() == QPrinter::PageRange && impressora.fromPage() > 0;
-  const int ultima = tram ? std::min(impressora.toPage() - 1, darrera) : darrera;
-  const int primera = tram ? std::min(impressora.fromPage() - 1, ultima) : 0;
-  if (!Pintar_A(impressora, pagines, primera, ultima)) Llancar_No_Escrit(impressora.printerName());
+  if (!Pintar_A(impressora, pagines, Pagines_Demanades(pagines, impressora)))
+    Llancar_No_Escrit(impressora.printerName());
+}
+
+QString Impressora_I_Copies() {
+  const auto proposada =
+      Impressora_Proposada(QPrinterInfo::availablePrinterNames(), QPrinterInfo::defaultPrinterName());
+  if (proposada.nom.isEmpty()) return {};
+  const QString copies = proposada.copies == 1
+                             ? Text_Qt(Missatge("1 còpia", "1 copia", "1 copy"))
+                             : Text_Qt(Missatge("%1 còpies", "%1 copias", "%1 copies")).arg(proposada.copies);
+  return proposada.nom + QStringLiteral(", ") + copies;
 }
 
 bool Hi_Ha_Impressora() {

@@ -26,10 +26,6 @@ QString Paraula(const char* catala, const char* castella, const char* angles) {
   return QString::fromStdString(Missatge(catala, castella, angles));
 }
 
-int Ultima(const Pagines& pagines) {
-  return static_cast<int>(pagines.pagines.size()) - 1;
-}
-
 // Title and author for whoever lists or searches the files.
 QByteArray Metadades(const Pagines& pagines) {
   return QStringLiteral(
@@ -63,7 +59,7 @@ void Escriure_PDF(const Pagines& pagines, const QString& fitxer) {
   pdf.setTitle(pagines.titol);
   pdf.setCreator(QStringLiteral("Brollador"));
   pdf.setDocumentXmpMetadata(Metadades(pagines));
-  const bool escrit = Pintar_A(pdf, pagines, 0, Ultima(pagines));
+  const bool escrit = Pintar_A(pdf, pagines, Totes_Les_Pagines(pagines));
   if (!escrit || !sortida.commit()) Llancar_No_Escrit(fitxer + QStringLiteral(": ") + sortida.errorString());
 }
 
@@ -119,7 +115,12 @@ void Dialeg_Impressio(const Pagines& pagines, QWidget* pare) {
   titol->setFont(lletra);
   columna->addWidget(titol);
   columna->addWidget(
-      new QLabel(Paraula("Pàgines: ", "Páginas: ", "Pages: ") + QString::number(Ultima(pagines) + 1), &dialeg));
+      new QLabel(Paraula("Pàgines: ", "Páginas: ", "Pages: ") + QString::number(pagines.pagines.size()), &dialeg));
+  if (const QString on = Impressora_I_Copies(); !on.isEmpty()) {
+    auto* impressora = new QLabel(Paraula("Impressora: ", "Impresora: ", "Printer: ") + on, &dialeg);
+    impressora->setObjectName(QStringLiteral("L_IMPRESSORA"));
+    columna->addWidget(impressora);
+  }
   columna->addSpacing(8);
   // The dialog stays for as long as nothing has come of it.
   const auto boto = [&](const char* nom, const QString& text, Dibuix dibuix, const std::function<bool()>& rutina) {
