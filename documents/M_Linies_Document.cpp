@@ -198,3 +198,36 @@ double Total_Document(const Tipus_Document& tipus, const Valor& numero, const st
                      sessio.Connexio_Comuna);
   return Arrodonir(Nul_A_Defecte(rs["IMPORT_BRUT"]).Doble(), 2);
 }
+
+namespace {
+
+std::string SQL_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  return "SELECT " + tipus.cap.Columna("ESTAT") + " FROM " + std::string(tipus.cap.nom) +
+         Condicio_Document(tipus, tipus.cap, numero, empresa);
+}
+
+std::string SQL_Linies_Amb(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
+                           const char* columna) {
+  return "SELECT * FROM " + std::string(tipus.lin.nom) + Condicio_Document(tipus, tipus.lin, numero, empresa) +
+         " AND " + tipus.lin.Columna(columna) + " <> 0";
+}
+
+}  // namespace
+
+void Demanar_Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
+                                  const char* columna) {
+  sessio.Connexio_Comuna.Demanar(SQL_Estat(tipus, numero, empresa));
+  sessio.Connexio_Comuna.Demanar(SQL_Linies_Amb(tipus, numero, empresa, columna));
+}
+
+bool Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
+                          const char* columna) {
+  Transaccio lectures(sessio.Connexio_Comuna);
+  Demanar_Bloquejat_Per_Linies(tipus, numero, empresa, columna);
+  const Recordset cap(SQL_Estat(tipus, numero, empresa), sessio.Connexio_Comuna);
+  const bool bloquejat =
+      (cap.RecordCount() > 0 && Nul_A_Defecte(cap[0]).Boolea()) ||
+      Recordset(SQL_Linies_Amb(tipus, numero, empresa, columna), sessio.Connexio_Comuna).RecordCount() > 0;
+  lectures.Confirmar();
+  return bloquejat;
+}

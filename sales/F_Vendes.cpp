@@ -1,7 +1,9 @@
 #include "sales/F_Vendes.h"
 
 #include "sales/F_Albarans.h"
+#include "sales/F_Comandes.h"
 
 void Registrar_Formularis_Venda() {
   Registrar_Formularis_Albara();
+  Registrar_Formularis_Comanda();
 }

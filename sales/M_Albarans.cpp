@@ -7,14 +7,13 @@
 #include "documents/M_Peu.h"
 #include "payments/M_Flags.h"
 #include "sales/M_Comandes.h"
+#include "sales/M_Pressupostos.h"
 #include "sales/M_Tipus_Venda.h"
 #include "stock/M_Magatzems.h"
 
 namespace {
 
-std::string Condicio_Linies(std::int64_t numero, const std::string& empresa) {
-  return Condicio_Document(tipus_albara, tipus_albara.lin, numero, empresa);
-}
+constexpr const char* columna_que_bloqueja = "COMANDA";  // the order that a line serves
 
 bool Es_Usuari_Sense_Comandes() {
   return sessio.P_Comandes == "X";
@@ -63,47 +62,21 @@ void Propagar_D_Albara(const Capcalera_Oberta& cap, Document_Obert& /*obert*/) {
   Propagar_Flag_Pagaments("A", cap.numero.Enter());
 }
 
-// Without orders a line can only come from a proposal: its line there is pending again.
-void Desfer_Acceptacio(std::int64_t numero, const std::string& empresa, std::int16_t linia) {
-  const std::string condicio = " WHERE EMPRESA_PL = " + Text_SQL(empresa) +
-                               " AND COMANDA_PL = " + std::to_string(numero) +
-                               " AND COMANDA_LIN_PL = " + std::to_string(linia);
-  const Recordset rs("SELECT NUMALB_PL FROM PRESSUPOSTLIN" + condicio, sessio.Connexio_Comuna);
-  if (rs.RecordCount() == 0) return;
-  const Valor pressupost = rs["NUMALB_PL"];
-  sessio.Connexio_Comuna.Execute("UPDATE PRESSUPOSTLIN SET COMANDA_PL = 0, COMANDA_LIN_PL = 0, ESTAT_PL = 0" +
-                                 condicio);
-  sessio.Connexio_Comuna.Execute("UPDATE PRESSUPOSTCAP SET ESTAT_PC = 0" +
-                                 Condicio_Document(tipus_pressupost, tipus_pressupost.cap, pressupost, empresa));
-}
-
+// Without orders a line can only come from a proposal.
 void Desfer_Lligam(const Capcalera_Oberta& cap, const Recordset& linia) {
   if (Es_Usuari_Sense_Comandes())
-    Desfer_Acceptacio(cap.numero.Enter(), cap.empresa, static_cast<std::int16_t>(linia["LIN_AL"].Enter()));
+    Alliberar_Linia_Pressupost(cap.numero.Enter(), cap.empresa, linia["LIN_AL"].Enter());
   else
     Desfer_Servei(cap.empresa, linia);
 }
 
 // Lines of proposals may point at the numbers of these.
 bool Es_Pot_Moure(const Valor& numero, const std::string& empresa, std::int16_t /*linia*/) {
-  if (!Es_Usuari_Sense_Comandes()) return true;
-  const Recordset rs("SELECT * FROM PRESSUPOSTLIN WHERE COMANDA_PL = " + std::to_string(numero.Enter()) +
-                         " AND EMPRESA_PL = " + Text_SQL(empresa),
-                     sessio.Connexio_Comuna);
-  return rs.RecordCount() == 0;
-}
-
-std::string SQL_Estat(std::int64_t numero, const std::string& empresa) {
-  return "SELECT ESTAT_AC FROM ALBARACAP" + Condicio_Document(tipus_albara, tipus_albara.cap, numero, empresa);
-}
-
-std::string SQL_Amb_Comanda(std::int64_t numero, const std::string& empresa) {
-  return "SELECT * FROM ALBARALIN" + Condicio_Linies(numero, empresa) + " AND COMANDA_AL <> 0";
+  return !Es_Usuari_Sense_Comandes() || !Te_Linies_De_Pressupost(numero.Enter(), empresa);
 }
 
 void Demanar_Bloquejat(const Valor& numero, const std::string& empresa) {
-  sessio.Connexio_Comuna.Demanar(SQL_Estat(numero.Enter(), empresa));
-  sessio.Connexio_Comuna.Demanar(SQL_Amb_Comanda(numero.Enter(), empresa));
+  Demanar_Bloquejat_Per_Linies(tipus_albara, numero, empresa, columna_que_bloqueja);
 }
 
 bool Bloquejat(const Valor& numero, const std::string& empresa) {
@@ -155,13 +128,7 @@ void Esborrar_Albara(std::int64_t numero, const std::string& empresa) {
 }
 
 bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa) {
-  Transaccio lectures(sessio.Connexio_Comuna);
-  Demanar_Bloquejat(numero, empresa);
-  const Recordset cap(SQL_Estat(numero, empresa), sessio.Connexio_Comuna);
-  const bool bloquejat = (cap.RecordCount() > 0 && Nul_A_Defecte(cap["ESTAT_AC"]).Boolea()) ||
-                         Recordset(SQL_Amb_Comanda(numero, empresa), sessio.Connexio_Comuna).RecordCount() > 0;
-  lectures.Confirmar();
-  return bloquejat;
+  return Bloquejat_Per_Linies(tipus_albara, numero, empresa, columna_que_bloqueja);
 }
 
 void Afegir_Linia_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,

@@ -1,8 +1,108 @@
 #include "sales/M_Comandes.h"
 
+#include <memory>
+
 #include "core/M_Funcions_Comuns.h"
+#include "documents/M_Linies_Document.h"
+#include "payments/M_Flags.h"
+#include "sales/M_Pressupostos.h"
 #include "sales/M_Tipus_Venda.h"
 #include "stock/M_Magatzems.h"
+
+namespace {
+
+constexpr const char* columna_que_bloqueja = "SERVIDES";
+
+// An order with a new line is not served any more.
+Apunt_Linia Flags_De_Comanda(const Capcalera_Oberta& cap, const Linia_Entrada& /*linia*/) {
+  const Document_Pagable comanda{'P', cap.numero.Enter()};
+  const auto cadena = std::make_shared<Cadena>(std::vector{comanda});
+  return {.abans = {}, .despres = [cadena, comanda] {
+            if (Document_Obert* oberta = sessio.pantalla->Document(tipus_comanda.formulari)) oberta->Posar_Estat(false);
+            Propagar_Flag_Pagaments(*cadena, comanda);
+          }};
+}
+
+void Columnes_De_Comanda(const Capcalera_Oberta& /*cap*/, const Linia_Entrada& /*linia*/, Recordset& fila) {
+  fila.Set("SERVIDES_CL", 0.0);
+}
+
+void Alliberar_Pressupost(const Capcalera_Oberta& cap, const Recordset& linia) {
+  Alliberar_Linia_Pressupost(cap.numero.Enter(), cap.empresa, linia["LIN_CL"].Enter());
+}
+
+// An order whose only pending line went is served.
+void Refer_Comanda(const Capcalera_Oberta& cap, Document_Obert& /*obert*/) {
+  Actualitzar_Estat_Comanda(cap.numero.Enter(), cap.empresa);
+  Propagar_Flag_Pagaments("P", cap.numero.Enter());
+}
+
+// Delivery lines point at the number of a line that is served, and lines of proposals at any. Its neighbour is not
+// asked.
+bool Es_Pot_Moure(const Valor& numero, const std::string& empresa, std::int16_t linia) {
+  const Recordset rs("SELECT SERVIDES_CL FROM COMANDALIN" +
+                         Condicio_Document(tipus_comanda, tipus_comanda.lin, numero, empresa) +
+                         " AND LIN_CL = " + std::to_string(linia) + " AND SERVIDES_CL = 0",
+                     sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 && !Te_Linies_De_Pressupost(numero.Enter(), empresa);
+}
+
+bool Bloquejada(const Valor& numero, const std::string& empresa) {
+  return Bloquejat_Per_Linies(tipus_comanda, numero, empresa, columna_que_bloqueja);
+}
+
+void Demanar_Bloquejada(const Valor& numero, const std::string& empresa) {
+  Demanar_Bloquejat_Per_Linies(tipus_comanda, numero, empresa, columna_que_bloqueja);
+}
+
+}  // namespace
+
+const Passos_Document passos_comanda = {.bloquejat = Bloquejada,
+                                        .demanar_bloquejat = Demanar_Bloquejada,
+                                        .apunt = Flags_De_Comanda,
+                                        .columnes = Columnes_De_Comanda,
+                                        .columna_lligada = columna_que_bloqueja,
+                                        .despres_d_esborrar = Alliberar_Pressupost,
+                                        .linies_esborrades = Refer_Comanda,
+                                        .es_pot_moure = Es_Pot_Moure};
+
+std::int64_t Crear_Capcalera_Comanda() {
+  return Crear_Capcalera(tipus_comanda).Enter();
+}
+
+std::int64_t Seguent_Numero_Comanda(const std::string& empresa) {
+  return Seguent_Numero(tipus_comanda, empresa).Enter();
+}
+
+std::int16_t Seguent_Linia_Comanda(std::int64_t numero, const std::string& empresa) {
+  return Seguent_Linia(tipus_comanda, numero, empresa);
+}
+
+bool Existeix_Comanda(std::int64_t numero, const std::string& empresa) {
+  return Existeix_Document(tipus_comanda, numero, empresa);
+}
+
+std::int64_t Comptar_Linies_Comanda(std::int64_t numero, const std::string& empresa) {
+  return Comptar_Linies(tipus_comanda, numero, empresa);
+}
+
+void Esborrar_Comanda(std::int64_t numero, const std::string& empresa) {
+  Demanar_Esborrar_Document(tipus_comanda, numero, empresa);
+}
+
+bool Comanda_Bloquejada(std::int64_t numero, const std::string& empresa) {
+  return Bloquejada(numero, empresa);
+}
+
+void Afegir_Linia_Comanda(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
+                          Document_Obert& obert) {
+  Afegir_Linia(tipus_comanda, cap, linia, linies, obert);
+}
+
+bool Esborrar_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::int16_t linia,
+                            const std::string& article) {
+  return Esborrar_Linia(tipus_comanda, {.numero = numero, .empresa = empresa}, {.numero = linia, .article = article});
+}
 
 void Servir_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::int16_t linia, double unitats) {
   Recordset rs("SELECT * FROM COMANDALIN" + Condicio_Document(tipus_comanda, tipus_comanda.lin, numero, empresa) +

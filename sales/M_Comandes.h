@@ -1,8 +1,32 @@
-// Orders as delivery notes serve them. Reads and writes COMANDALIN, COMANDACAP.
+// Orders: what a customer has asked for, until delivery notes serve it. They move no stock. Reads and writes
+// COMANDACAP, COMANDALIN, COMANDAPEU; through their modules PRESSUPOSTLIN, PRESSUPOSTCAP and the payment flags of the
+// chain.
 #pragma once
 
-#include <cstdint>
-#include <string>
+#include "documents/Documents.h"
+
+// What orders do of their own around their lines.
+extern const Passos_Document passos_comanda;
+
+std::int64_t Crear_Capcalera_Comanda();
+std::int64_t Seguent_Numero_Comanda(const std::string& empresa);
+std::int16_t Seguent_Linia_Comanda(std::int64_t numero, const std::string& empresa);
+bool Existeix_Comanda(std::int64_t numero, const std::string& empresa);
+std::int64_t Comptar_Linies_Comanda(std::int64_t numero, const std::string& empresa);
+
+// Asks and deletes a whole order: delivery lines that serve it keep its number. Refused when it holds payments.
+void Esborrar_Comanda(std::int64_t numero, const std::string& empresa);
+// True when the order is served or any of its lines is in part.
+bool Comanda_Bloquejada(std::int64_t numero, const std::string& empresa);
+
+// Writes a line on the form's line recordset; the order stands open again on the form that shows it. Call it inside a
+// transaction. Raises 1010 when the chain of payments is not as it should be, 6, 13 or the engine's.
+void Afegir_Linia_Comanda(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
+                          Document_Obert& obert);
+// Asks, deletes the line and frees the proposal's line that it came from. A line that is served, even in part, stays in
+// silence. False when the user said no. Call it inside a transaction that has not written yet.
+bool Esborrar_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::int16_t linia,
+                            const std::string& article);
 
 // Adds units (negative to undo) to SERVIDES_CL and updates the order's state. An order line that does not exist leaves
 // everything as it is.

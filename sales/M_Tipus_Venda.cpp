@@ -2,6 +2,7 @@
 
 #include "payments/M_Pagaments.h"
 #include "sales/M_Albarans.h"
+#include "sales/M_Comandes.h"
 
 const Tipus_Document tipus_pressupost = {
     .formulari = "F_PRESSUPOST",
@@ -35,7 +36,8 @@ const Tipus_Document tipus_comanda = {
     .numero_a_obrir = &Sessio::Numero_Comanda,
     .crida = &Sessio::Crida_Mestre,
     .pregunta_esborrar = {"Segur d'esborrar la Comanda ", "¿Seguro de eliminar el Pedido ",
-                          "Are you sure to delete Order "}};
+                          "Are you sure to delete Order "},
+    .passos = &passos_comanda};
 
 const Tipus_Document tipus_albara = {
     .formulari = "F_ALBARA",

@@ -23,6 +23,8 @@ constexpr char subinici[] = "F_SUBINICI";
 constexpr char ajuda[] = "F_HELP";
 constexpr char albarans_s[] = "F_ALBARANSS";
 constexpr char albarans_m[] = "F_ALBARANSM";
+constexpr char comandes_s[] = "F_COMANDESS";
+constexpr char comandes_m[] = "F_COMANDESM";
 constexpr char usuaris_m[] = "F_USUARISM";
 constexpr char clients_m[] = "F_CLIENTSM";
 constexpr char proveidors_m[] = "F_PROVEIDORSM";
@@ -95,6 +97,14 @@ const Cami camins[] = {
        Doble_Clic("F_ALBARANSM", 0);
      },
      false},
+    {comandes_s, Obrir_Sol<comandes_s>, true},
+    {comandes_m, Obrir_Sol<comandes_m>, false},
+    {"F_COMANDA",
+     [] {
+       Obrir(QStringLiteral("F_COMANDESM"));
+       Doble_Clic("F_COMANDESM", 0);
+     },
+     false},
     {"F_PAGDOC",
      [] {
        sessio.Pag_Document = "A";
@@ -132,7 +142,8 @@ std::span<const Cami> Camins() {
 }
 
 Cada_Pantalla::Cada_Pantalla() {
-  for (const char* dades : {"botiga.txt", "albarans.txt", "usuaris.txt"}) Carregar_Dades(QString::fromLatin1(dades));
+  for (const char* dades : {"botiga.txt", "albarans.txt", "comandes.txt", "usuaris.txt"})
+    Carregar_Dades(QString::fromLatin1(dades));
   sessio.Connexio_Comuna.Execute("INSERT INTO PROVEIDORS (NIF_PRO, RAO_SOCIAL_PRO) VALUES ('P1', 'Ferros')");
   sessio.Connexio_Comuna.Execute("INSERT INTO ARTICLES (CODI_ART, DESCRIPCIO_ART) VALUES ('AAA', 'Hostil')");
   sessio.Parametres["Fitxa_Client_Dades_Visible"] = "True";

@@ -15,6 +15,7 @@
 #include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "core/formularis/Drets.h"
+#include "documents/Documents.h"
 #include "tests/pantalles/Cada_Pantalla.h"
 
 namespace {
@@ -74,8 +75,10 @@ class Camps_De_Cada_Pantalla : public Cada_Pantalla {
   // A search, a login or a filter is no change of anything that is kept: all the others are looked at by their names.
   bool Es_Editor() const {
     const QString nom = Nom();
+    const bool document = std::ranges::any_of(
+        Tipus_Registrats(), [&](const Tipus_Document* tipus) { return nom.toStdString() == tipus->formulari; });
     return nom == u"F_CLIENT" || nom == u"F_PROVEIDOR" || nom == u"F_ARTICLE" || nom == u"F_EMPRESA" ||
-           nom == u"F_USUARI" || nom == u"F_ALBARA" || S_Edita_En_Lloc(nom);
+           nom == u"F_USUARI" || document || S_Edita_En_Lloc(nom);
   }
   static void Canviar(QWidget* control) {
     if (auto* casella = qobject_cast<QCheckBox*>(control)) return casella->click();

@@ -1,5 +1,6 @@
 // The number fields of every screen, found by walking the screens: what they read, and what they refuse and how.
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTest>
@@ -97,7 +98,7 @@ TEST_P(Nombres_De_Cada_Pantalla, A_number_is_taken_as_people_type_and_paste_it) 
   Tancar_I_Obrir();
   ASSERT_NE(Obert(), nullptr);
   // A price is of an article, whose tax it follows.
-  if (auto* article = Obert()->findChild<QLineEdit*>(QStringLiteral("TXT_ARTICLE_AL")))
+  for (auto* article : Obert()->findChildren<QLineEdit*>(QRegularExpression(QStringLiteral("^TXT_ARTICLE_[A-Z]+$"))))
     Enganxar_I_Deixar(article, "VAR");
   for (const QString& nom : Camps()) {
     for (const auto& [text, valor] : admesos) {

@@ -1,5 +1,6 @@
 #include "sales/M_Comandes.h"
 
+#include "sales/M_Tipus_Venda.h"
 #include "tests/regles/Base.h"
 
 class M_Comandes : public Base_Dades {
@@ -82,4 +83,69 @@ TEST_F(M_Comandes, the_open_form_takes_the_tick_of_any_order_and_the_table_is_no
 TEST_F(M_Comandes, an_order_of_another_company_is_another_order) {
   Servir_Linia_Comanda(3, "C1", 1, 5);
   EXPECT_EQ(Servides(3, 1), 0);
+}
+
+// An order and its lines.
+class Linies_De_Comanda : public M_Comandes {
+ protected:
+  void SetUp() override {
+    Posar_Comanda(5);
+    Posar_Article({.codi = "A1"});
+    Posar_Estoc("A1", "1", 50);
+    linies.Open(SQL_Linies(tipus_comanda, 5, empresa_prova), sessio.Connexio_Comuna, Bloqueig::Optimista);
+    linia.article = "A1";
+    linia.iva_article = "GN";
+    linia.unitats = 4;
+    linia.preu_unitari = 12.5;
+    pantalla.documents["F_COMANDA"] = &formulari;
+    formulari.numero = 5;
+  }
+  void Afegir() {
+    Transaccio transaccio(sessio.Connexio_Comuna);
+    Afegir_Linia_Comanda({.numero = 5, .empresa = empresa_prova, .iva = true, .re = false}, linia, linies, formulari);
+    transaccio.Confirmar();
+  }
+  bool Esborrar(std::int16_t numero) {
+    pantalla.respostes.push_back(Resposta::Ok);
+    Transaccio transaccio(sessio.Connexio_Comuna);
+    const bool esborrada = Esborrar_Linia_Comanda(5, empresa_prova, numero, "A1");
+    transaccio.Confirmar();
+    return esborrada;
+  }
+  Linia_Entrada linia;
+  Recordset linies;
+  Document_Fals formulari;
+};
+
+TEST_F(Linies_De_Comanda, a_new_one_moves_no_stock_and_opens_the_order) {
+  Afegir();
+  EXPECT_EQ(Numero("SELECT IMPORT_NET_CL FROM COMANDALIN"), 50);
+  EXPECT_EQ(Servides(5, 1), 0);
+  EXPECT_EQ(formulari.import, 60.5);
+  EXPECT_EQ(formulari.estat, false);
+  EXPECT_EQ(formulari.pagament, true);
+  EXPECT_EQ(Estoc("A1", "1").Doble(), 50);
+  EXPECT_EQ(Moviments(), 0);
+}
+
+TEST_F(Linies_De_Comanda, one_that_is_served_in_part_stays_in_silence) {
+  Afegir();
+  Executar("UPDATE COMANDALIN SET SERVIDES_CL = 0.5");
+  EXPECT_TRUE(Esborrar(1));
+  EXPECT_EQ(pantalla.caixes.size(), 1U);
+  EXPECT_EQ(Comptar_Linies_Comanda(5, empresa_prova), 1);
+  EXPECT_TRUE(Comanda_Bloquejada(5, empresa_prova));
+}
+
+TEST_F(Linies_De_Comanda, a_pending_one_goes_and_frees_the_line_of_the_proposal_that_it_came_from) {
+  Afegir();
+  EXPECT_FALSE(Comanda_Bloquejada(5, empresa_prova));
+  Executar("INSERT INTO PRESSUPOSTCAP (NUMALB_PC, EMPRESA_PC, ESTAT_PC) VALUES(9, '" + empresa_prova + "', -1)");
+  Executar(
+      "INSERT INTO PRESSUPOSTLIN (NUMALB_PL, EMPRESA_PL, LIN_PL, COMANDA_PL, COMANDA_LIN_PL, ESTAT_PL) VALUES(9, '" +
+      empresa_prova + "', 2, 5, 1, -1)");
+  EXPECT_TRUE(Esborrar(1));
+  EXPECT_EQ(Comptar_Linies_Comanda(5, empresa_prova), 0);
+  EXPECT_EQ(Files("SELECT * FROM PRESSUPOSTLIN WHERE COMANDA_PL = 0 AND COMANDA_LIN_PL = 0 AND ESTAT_PL = 0"), 1);
+  EXPECT_EQ(Files("SELECT * FROM PRESSUPOSTCAP WHERE ESTAT_PC = 0"), 1);
 }

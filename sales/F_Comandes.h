@@ -1,0 +1,4 @@
+// The screens of orders: search, list and editor.
+#pragma once
+
+void Registrar_Formularis_Comanda();
