@@ -85,6 +85,8 @@ class Imprimir : public Base_Pantalles {
   int linia_ = 0;
 };
 
+using Pagina_Valorada = Base_Pantalles;
+
 }  // namespace
 
 TEST_F(Imprimir, APdfIsNamedAfterTheNoteInTheFolderOfTemporaryFiles) {
@@ -287,7 +289,7 @@ TEST_F(Imprimir, ANameOfAFileHoldsNoSlash) {
 }
 
 // The design holds the Catalan captions, and each has its line in the three languages.
-TEST(DR_Valorat, CaptionsAndTextsAgree) {
+TEST_F(Pagina_Valorada, CaptionsAndTextsAgree) {
   for (const auto& descripcio : Informes_De_Documents()) {
     std::map<std::string, std::string> textos;
     for (const auto& text : Textos_De_Pantalles()) {
@@ -304,7 +306,7 @@ TEST(DR_Valorat, CaptionsAndTextsAgree) {
 }
 
 // No two controls of a section share a place, and none leaves the margins.
-TEST(DR_Valorat, ControlsKeepToTheirPlaces) {
+TEST_F(Pagina_Valorada, ControlsKeepToTheirPlaces) {
   for (const auto& descripcio : Informes_De_Documents()) {
     const auto& definicio = DR_Valorat(descripcio);
     for (const auto& a : definicio.controls) {
