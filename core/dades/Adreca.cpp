@@ -18,7 +18,7 @@ std::map<std::string, std::string> Parts_De(const std::string& adreca) {
                                                                              PQconninfoFree);
   PQfreemem(paraules);  // they repeat the address
   if (!opcions) {
-    throw Error_Brollador(errors::general, "PostgreSQL", "the address of the server cannot be understood");
+    Llancar_Falla(Falla::Adreca_Dolenta, "PostgreSQL");
   }
   std::map<std::string, std::string> parts;
   for (const PQconninfoOption* opcio = opcions.get(); opcio->keyword != nullptr; ++opcio) {
@@ -66,7 +66,7 @@ void Exigir_Adreca(const std::string& adreca) {
   }
   const std::size_t on = adreca.find(separador);
   if (on == std::string::npos || adreca.find('/') < on) return;
-  throw Error_Brollador(errors::general, "Connexio", "no database is reached by " + Adreca_Per_Mostrar(adreca));
+  Llancar_Falla(Falla::Adreca_Desconeguda, "Connexio", Adreca_Per_Mostrar(adreca));
 }
 
 std::string Base_De_Adreca(const std::string& adreca) {

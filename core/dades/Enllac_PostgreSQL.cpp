@@ -70,6 +70,9 @@ Falla Falla_De(std::string_view codi, std::string_view sql) {
   if (codi == "55P03") return Falla::Espera;
   if (codi == "40P01" || codi == "40001") return Falla::Interbloqueig;
   if (codi == "25006") return Falla::No_Es_Pot_Escriure;
+  if (codi == "53100") return Falla::Disc_Ple;
+  if (codi == "XX001" || codi == "XX002") return Falla::Base_Malmesa;
+  if (Comenca(codi, "58")) return Falla::Disc_Que_Falla;
   return Falla::Altra_Del_Motor;
 }
 

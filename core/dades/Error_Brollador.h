@@ -32,7 +32,12 @@ enum class Falla {
   Fila_Retinguda,      // another terminal has the row in edit
   Sense_Fila,          // no current row
   No_Es_Pot_Escriure,
-  Altra_Del_Motor,  // the engine's own words tell
+  Disc_Ple,            // no room for what has to be written
+  Base_Malmesa,        // what is in the file is no database, or not one that can be trusted
+  Disc_Que_Falla,      // the disk, or the network that it is reached by, did not read or write
+  Adreca_Dolenta,      // of a server, and it cannot be understood
+  Adreca_Desconeguda,  // of no kind of database that there is
+  Altra_Del_Motor,     // the engine's own words tell
 };
 
 class Error_Brollador : public std::runtime_error {

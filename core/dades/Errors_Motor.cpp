@@ -12,11 +12,17 @@ void Apuntar(int numero, const char* motor, const std::string& paraules, std::st
   Apuntar_Error(numero, motor, text);
 }
 
+// Failures that whoever looks after the machine has to mend: the engine's words say where.
+bool Es_Per_A_Qui_El_Cuida(Falla falla) {
+  return falla == Falla::Altra_Del_Motor || falla == Falla::Disc_Ple || falla == Falla::Base_Malmesa ||
+         falla == Falla::Disc_Que_Falla;
+}
+
 }  // namespace
 
 void Llancar_Error_Motor(Falla falla, const char* motor, const std::string& paraules, std::string_view sql) {
   Apuntar(errors::general, motor, paraules, sql);
-  Llancar_Falla(falla, motor, falla == Falla::Altra_Del_Motor ? paraules : std::string());
+  Llancar_Falla(falla, motor, Es_Per_A_Qui_El_Cuida(falla) ? paraules : std::string());
 }
 
 void Llancar_Sentencia_Motor(const char* motor, const std::string& paraules, std::string_view sql) {

@@ -8,7 +8,8 @@
 #include "core/dades/Error_Brollador.h"
 
 // `paraules` are the engine's, with its own number and without values; `sql` is the statement's shape.
-// An error that the engine knows as no failure of ours is shown with its words behind ours.
+// A disk that is full or fails, a damaged file, and an error that is no failure of ours are shown with the engine's
+// words behind ours.
 [[noreturn]] void Llancar_Error_Motor(Falla falla, const char* motor, const std::string& paraules,
                                       std::string_view sql = {});
 // A statement that the engine does not understand: 0x80040E14.

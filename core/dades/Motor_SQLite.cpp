@@ -86,9 +86,21 @@ Falla Falla_De(int codi, std::string_view sql) {
       return Falla::Sense_Connexio;
     case SQLITE_READONLY:
       return Falla::No_Es_Pot_Escriure;
+    case SQLITE_FULL:
+      return Falla::Disc_Ple;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      return Falla::Base_Malmesa;
+    case SQLITE_IOERR:
+      return Falla::Disc_Que_Falla;
     default:
       return Falla::Altra_Del_Motor;
   }
+}
+
+[[noreturn]] void Llancar_De(sqlite3* base, int codi, std::string_view sql = {}, const std::string& lloc = {}) {
+  const std::string paraules = std::string(sqlite3_errmsg(base)) + " (" + std::to_string(codi) + ")";
+  Llancar_Error_Motor(Falla_De(codi, sql), "SQLite", lloc.empty() ? paraules : paraules + ": " + lloc, sql);
 }
 
 Base Obrir_Base(const std::string& cami, int mode) {
@@ -215,10 +227,7 @@ class Motor_SQLite final : public Motor {
   }
 
  private:
-  [[noreturn]] void Llancar(int codi, std::string_view sql) const {
-    const std::string paraules = std::string(sqlite3_errmsg(base_.get())) + " (" + std::to_string(codi) + ")";
-    Llancar_Error_Motor(Falla_De(codi, sql), "SQLite", paraules, sql);
-  }
+  [[noreturn]] void Llancar(int codi, std::string_view sql) const { Llancar_De(base_.get(), codi, sql); }
 
   void Executar_Directe(const std::string& sql) {
     const int codi = sqlite3_exec(base_.get(), sql.c_str(), nullptr, nullptr, nullptr);
@@ -368,9 +377,8 @@ void Crear_Fitxer_SQLite(const std::string& cami) {
   const char* esquema =
       "CREATE TABLE ESQUEMA (ORDRE INTEGER PRIMARY KEY, TAULA TEXT NOT NULL, COLUMNA TEXT NOT NULL, "
       "TIPUS TEXT NOT NULL, CLAU INTEGER NOT NULL) STRICT";
-  if (sqlite3_exec(base.get(), esquema, nullptr, nullptr, nullptr) != SQLITE_OK) {
-    Llancar_Error_Motor(Falla::Altra_Del_Motor, "SQLite", sqlite3_errmsg(base.get()));
-  }
+  const int codi = sqlite3_exec(base.get(), esquema, nullptr, nullptr, nullptr);
+  if (codi != SQLITE_OK) Llancar_De(base.get(), codi, esquema, cami);
 }
 
 void Copiar_Fitxer_SQLite(const std::string& cami, const std::string& desti) {
@@ -385,8 +393,7 @@ void Copiar_Fitxer_SQLite(const std::string& cami, const std::string& desti) {
     sqlite3_backup_finish(feina);
   }
   if (const int codi = sqlite3_errcode(copia.get()); codi != SQLITE_OK) {
-    throw Error_Brollador(errors::general, "SQLite",
-                          std::string(sqlite3_errmsg(copia.get())) + " (" + std::to_string(codi) + "): " + desti);
+    Llancar_De(copia.get(), codi, {}, desti);
   }
   std::filesystem::permissions(desti, std::filesystem::status(cami).permissions());
 }

@@ -1,6 +1,8 @@
 // What goes wrong in an engine has words of our own, the same on both, and the engine's own go to the log.
+#include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <csignal>
 #include <set>
 #include <sstream>
 
@@ -37,6 +39,26 @@ std::string Paraules(Feina feina) {
   }
   return {};
 }
+
+// No file of the program grows beyond that size while it lives.
+class Disc_Petit {
+ public:
+  explicit Disc_Petit(rlim_t octets) : senyal_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &abans_);
+    const rlimit ara{octets, abans_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &ara);
+  }
+  ~Disc_Petit() {
+    setrlimit(RLIMIT_FSIZE, &abans_);
+    std::signal(SIGXFSZ, senyal_);
+  }
+  Disc_Petit(const Disc_Petit&) = delete;
+  Disc_Petit& operator=(const Disc_Petit&) = delete;
+
+ private:
+  rlimit abans_{};
+  void (*senyal_)(int);
+};
 
 }  // namespace
 
@@ -88,11 +110,60 @@ TEST_F(Errors_Del_Motor, A_lost_connection_has_words_of_its_own) {
   EXPECT_NE(Apuntat(), "");
 }
 
+TEST_F(Errors_Del_Motor, A_full_disk_is_told_with_the_engines_words_as_detail_and_leaves_what_there_was) {
+  if (Proves_Al_Servidor()) GTEST_SKIP() << "of a file";
+  Client("1", "Anna");
+  connexio.motor().Executar("PRAGMA max_page_count = 1", {});  // no more than it has
+  const auto omplir = [&] { Client("2", std::string(100000, 'x')); };
+  EXPECT_EQ(Motiu_Error(omplir), Falla::Disc_Ple);
+  EXPECT_EQ(Paraules(omplir), "No queda lloc al disc de la base de dades: database or disk is full (13)");
+  Posar_Idioma_Errors(2);
+  EXPECT_EQ(Paraules(omplir).substr(0, 50), "There is no room left on the disk of the database:");
+  EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS").Enter(), 1);
+}
+
+TEST_F(Errors_Del_Motor, A_disk_that_does_not_write_is_told_and_leaves_what_there_was) {
+  if (Proves_Al_Servidor()) GTEST_SKIP() << "of a file";
+  Client("1", "Anna");
+  std::string paraules;
+  {
+    const Disc_Petit petit(std::filesystem::file_size(cami));
+    paraules = Paraules([&] { Client("2", std::string(100000, 'x')); });
+  }
+  EXPECT_EQ(paraules.substr(0, paraules.find(':')), "El disc no ha llegit o no ha escrit la base de dades");
+  EXPECT_NE(paraules.find("I/O"), std::string::npos) << paraules;
+  EXPECT_EQ(Un_Valor("SELECT COUNT(*) FROM CLIENTS").Enter(), 1);
+}
+
+TEST_F(Errors_Del_Motor, A_damaged_file_is_told_as_one) {
+  if (Proves_Al_Servidor()) GTEST_SKIP() << "of a file";
+  const std::string malmesa = carpeta + "/malmesa.db";
+  std::ofstream(malmesa) << std::string(8192, 'x');
+  Connexio nova;
+  EXPECT_EQ(Motiu_Error([&] { nova.Open(malmesa); }), Falla::Base_Malmesa);
+  EXPECT_EQ(Paraules([&] { nova.Open(malmesa); }),
+            "El fitxer de la base de dades està malmès: file is not a database (26)");
+  EXPECT_NE(Apuntat().find("(26)"), std::string::npos);
+}
+
+TEST_F(Errors_Del_Motor, A_server_tells_of_its_disk_in_the_same_words) {
+  if (!Proves_Al_Servidor()) GTEST_SKIP() << "of a server";
+  const auto fallar = [&](const std::string& codi) {
+    connexio.motor().Executar("DO $$ BEGIN RAISE EXCEPTION 'the words' USING ERRCODE = '" + codi + "'; END $$", {});
+  };
+  EXPECT_EQ(Motiu_Error([&] { fallar("53100"); }), Falla::Disc_Ple);
+  EXPECT_EQ(Motiu_Error([&] { fallar("58030"); }), Falla::Disc_Que_Falla);
+  EXPECT_EQ(Motiu_Error([&] { fallar("XX001"); }), Falla::Base_Malmesa);
+  EXPECT_EQ(Paraules([&] { fallar("53100"); }), "No queda lloc al disc de la base de dades: the words (53100)");
+}
+
 TEST_F(Errors_Del_Motor, Every_failure_speaks_the_three_languages) {
   Client("1", "Anna");
-  for (const Falla falla : {Falla::Clau_Repetida, Falla::Fila_En_Us, Falla::Sense_Pare, Falla::Valor_Buit,
-                            Falla::Espera, Falla::Sense_Connexio, Falla::Transaccio_Desfeta, Falla::Fila_Retinguda,
-                            Falla::Sense_Fila, Falla::No_Es_Pot_Escriure, Falla::Altra_Del_Motor}) {
+  for (const Falla falla :
+       {Falla::Clau_Repetida, Falla::Fila_En_Us, Falla::Sense_Pare, Falla::Valor_Buit, Falla::Espera,
+        Falla::Sense_Connexio, Falla::Transaccio_Desfeta, Falla::Fila_Retinguda, Falla::Sense_Fila,
+        Falla::No_Es_Pot_Escriure, Falla::Disc_Ple, Falla::Base_Malmesa, Falla::Disc_Que_Falla, Falla::Adreca_Dolenta,
+        Falla::Adreca_Desconeguda, Falla::Altra_Del_Motor}) {
     std::set<std::string> textos;
     for (const int idioma : {0, 1, 2}) {
       Posar_Idioma_Errors(idioma);

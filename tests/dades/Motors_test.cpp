@@ -179,8 +179,6 @@ TEST_F(Motors, Trips_to_the_server_are_counted_and_what_travels_together_counts_
   EXPECT_EQ(Connexio().Viatges(), 0);
 }
 
-// ---- The server goes away and comes back ----
-
 TEST_F(Motors, A_server_that_was_away_is_found_again_by_the_next_statement) {
   if (!Proves_Al_Servidor()) GTEST_SKIP() << "of a server";
   Client("1", "Anna");
