@@ -37,8 +37,6 @@ std::string Valor_SQL(const Valor& valor) {
   return valor.Es_Enter() ? std::to_string(valor.Enter()) : Numero_SQL(valor.Doble());
 }
 
-// ---- Clocks
-
 namespace {
 
 Data_Hora Rellotge_Equip() {
@@ -49,11 +47,6 @@ Data_Hora Rellotge_Equip() {
 }
 
 std::function<Data_Hora()> rellotge_actual = Rellotge_Equip;
-
-int Segons_Del_Dia() {
-  const Data_Hora ara = Ara();
-  return (ara.hora * 60 + ara.minut) * 60 + ara.segon;
-}
 
 }  // namespace
 
@@ -94,23 +87,24 @@ void Tancar_Recordsets_Informe() {
 }
 
 void Esperar(std::int32_t segons) {
-  constexpr int segons_dia = 24 * 60 * 60;
-  int ara = Segons_Del_Dia();
-  int fi = ara + segons;
-  while (ara < fi) {
-    sessio.pantalla->Processar_Events();
-    const int abans = std::exchange(ara, Segons_Del_Dia());
-    if (ara < abans) fi -= segons_dia;
-  }
+  if (segons > 0) sessio.pantalla->Esperar(segons);
 }
-
-// ---- Lists, folders, forms, messages
 
 void Reposicionar(Recordset& rs, std::int64_t posicio) {
   if (!rs.State() || rs.RecordCount() == 0) return;
   if (posicio > 0) rs.Move_Des_Del_Primer(posicio);
   if (rs.AbsolutePosition() == Recordset::posicio_inici) rs.MoveFirst();
   if (rs.AbsolutePosition() == Recordset::posicio_final) rs.MoveLast();
+}
+
+void Requerir_Alla_Mateix(Recordset& rs, const std::string& sentencia) {
+  sessio.Posicio_Guardada = static_cast<std::int32_t>(rs.AbsolutePosition());
+  if (sentencia.empty()) {
+    rs.Requery();
+  } else {
+    rs.Reopen(sentencia);
+  }
+  Reposicionar(rs, sessio.Posicio_Guardada - 1);
 }
 
 void Crear_Directori(std::string& cami) {

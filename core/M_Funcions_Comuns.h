@@ -31,11 +31,14 @@ Data_Hora Data_Hora_Servidor();
 
 // Goes back to a saved row after a requery: `posicio` rows from the first. Never raises.
 void Reposicionar(Recordset& rs, std::int64_t posicio);
+// Reads the rows of a list again, by another statement when there is one, and goes back to the row that was current.
+// The only one that fills and reads Posicio_Guardada. Raises what the reading raises.
+void Requerir_Alla_Mateix(Recordset& rs, const std::string& sentencia = {});
 
 // Closes the recordsets that outlive their form, at the end of the program and before a backup.
 void Tancar_Recordsets_Informe();
 
-// Waits the seconds of the clock, letting events run. A wait that crosses midnight ends on the next day.
+// Waits so many seconds, letting events run and asleep between them; what the user does meanwhile waits too.
 void Esperar(std::int32_t segons);
 
 // Creates a folder path piece by piece; `cami` comes back rebuilt, without doubled slashes and with a closing one.

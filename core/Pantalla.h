@@ -2,6 +2,7 @@
 // fake of a few lines. Nothing else of a form is visible from a rule.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,8 +51,9 @@ class Pantalla {
   // The document form of this name, null when it is not loaded.
   virtual Document_Obert* Document(std::string_view nom_formulari) = 0;
 
-  virtual void Processar_Events() = 0;   // lets pending events run
-  virtual void Bloquejar_Entrada() = 0;  // keys and clicks are swallowed until released
+  virtual void Processar_Events() = 0;            // lets pending events run
+  virtual void Esperar(std::int32_t segons) = 0;  // lets events run for so long
+  virtual void Bloquejar_Entrada() = 0;           // keys and clicks are swallowed until released
   virtual void Alliberar_Entrada() = 0;
 
   // The company chooser: the NIF of the company picked, or the empty text. A question too.

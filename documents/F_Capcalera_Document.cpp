@@ -60,8 +60,6 @@ QWidget* Capcalera_Document::Control(const QString& nom) const {
   return formulari_.Cercar_Control(nom + u'_' + QString::fromStdString(std::string(tipus_.cap.sufix)));
 }
 
-// ---- Showing ----------------------------------------------------------------------------------------------------
-
 void Capcalera_Document::Obrir(const Valor& numero) {
   numero_ = numero;
   cap_.Unique_Table(std::string(tipus_.cap.nom));
@@ -137,8 +135,6 @@ Capcalera_Oberta Capcalera_Document::Oberta() const {
           .iva = article || Esta_Marcada("IVA"),
           .re = article || Esta_Marcada("RE")};
 }
-
-// ---- Saving -----------------------------------------------------------------------------------------------------
 
 void Capcalera_Document::Canviar_Qui() {
   const std::string codi = combo_->Codi();

@@ -12,14 +12,8 @@
 #include "core/controls/Focus_Camps.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Formularis_Oberts.h"
-#include "documents/F_Obrir_Document.h"
-#include "documents/M_Linies_Document.h"
-#include "documents/M_Peu.h"
-#include "session/M_Locks.h"
 
 namespace {
-
-constexpr int impressio_per_dialeg = 0;
 
 bool Te_Text(const QWidget* control) {
   const auto* camp = qobject_cast<const QLineEdit*>(control);
@@ -31,8 +25,6 @@ bool Te_Text(const QWidget* control) {
 Editor_Document::Editor_Document(const Descripcio_Editor& descripcio) : Formulari(QString()), descripcio_(descripcio) {}
 
 Editor_Document::~Editor_Document() = default;
-
-// ---- Opening ----------------------------------------------------------------------------------------------------
 
 QPushButton* Editor_Document::Boto(const char* nom) const {
   return qobject_cast<QPushButton*>(Cercar_Control(QString::fromUtf8(nom)));
@@ -165,8 +157,6 @@ void Editor_Document::Activar() {
   Aplicar_Estat();
 }
 
-// ---- What may be touched ----------------------------------------------------------------------------------------
-
 bool Editor_Document::Tancat() const {
   const auto tancat = Passos_De(Tipus()).tancat;
   return tancat == nullptr ? cap_->Esta_Marcada("ESTAT") : tancat(Numero(), sessio.Empresa_Actual);
@@ -217,212 +207,6 @@ void Editor_Document::Mostrar_Estat() {
   Aplicar_Estat();
   Aplicar_Opcio();
 }
-
-// ---- The head ---------------------------------------------------------------------------------------------------
-
-void Editor_Document::Desar_Capcalera() {
-  const Valor abans = Numero();
-  cap_->Desar(Numero_Escrit(Tipus(), cap_->Camp_Numero()->text().toStdString()).value_or(abans));
-  if (!(Numero() == abans)) Obrir_Recordsets();
-  Aplicar_Drets();
-}
-
-// True when the number in the field is the document's, or has become it. One that is taken gives way to the old one.
-bool Editor_Document::Acceptar_Numero() {
-  QLineEdit* camp = cap_->Camp_Numero();
-  const auto escrit = Numero_Escrit(Tipus(), camp->text().toStdString());
-  const auto mostrar = [&] { camp->setText(QString::fromStdString(Numero().Text())); };
-  if (!escrit && camp->text().toStdString() != Numero().Text()) return false;
-  const bool es_el_mateix = !escrit || Mateix_Numero(*escrit, Numero());
-  if (!es_el_mateix && Existeix_Document(Tipus(), *escrit, sessio.Empresa_Actual)) {
-    mostrar();
-    return false;
-  }
-  try {
-    if (!es_el_mateix) Canviar_Numero(*escrit);
-    mostrar();
-    return true;
-  } catch (const Error_Brollador& error) {
-    cap_->Cancellar();
-    mostrar();
-    Retenir_Focus(camp);
-    if (error.Numero() == errors::refusat) Mostrar_Refus(error);  // as where a document is opened
-    throw;
-  }
-}
-
-void Editor_Document::Deixar_Numero() {
-  if (!Acceptar_Numero()) Retenir_Focus(cap_->Camp_Numero());
-}
-
-// The lock of the new number first: when it is refused the document stays locked under its own.
-void Editor_Document::Canviar_Numero(const Valor& nou) {
-  const std::string lletra(Tipus().lletra_bloqueig);
-  const Valor vell = Numero();
-  Bloquejar_Per_Tipus(lletra, nou.Text());
-  try {
-    Desar_Capcalera();
-  } catch (const Error_Brollador&) {
-    Desbloquejar_Document(lletra, sessio.Empresa_Actual, nou.Text());
-    throw;
-  }
-  Desbloquejar_Document(lletra, sessio.Empresa_Actual, vell.Text());
-}
-
-void Editor_Document::Canviar_Qui() {
-  cap_->Canviar_Qui();
-  Desar_Capcalera();
-  if (Recalcular_Linies(Tipus(), cap_->Oberta(), *this)) {
-    Requerir_Linies();
-    Refrescar_Peu();
-  }
-  Aplicar_Estat();
-  Aplicar_Opcio();
-}
-
-void Editor_Document::Refrescar_Peu() {
-  if (graella_peu_ == nullptr) return;
-  peu_.Requery();
-  graella_peu_->Refrescar();
-}
-
-// ---- Lines ------------------------------------------------------------------------------------------------------
-
-// A line, what it is tied to, its foot and its stock stand or fall together. False when the line may well be saved as
-// it was typed, once the terminal that holds the database lets it go.
-bool Editor_Document::Desar_Linia() {
-  bool passatger = false;
-  Guardar_Event(
-      [&] {
-        Bloquejar_Entrada();
-        try {
-          En_Transaccio(
-              sessio.Connexio_Comuna,
-              [this] {
-                entrada_->Refer_PVP();
-                Afegir_Linia(Tipus(), cap_->Oberta(), entrada_->Linia(), linies_, *this);
-                bloquejat_ = Bloquejat();
-              },
-              [this] {
-                cap_->Cancellar();
-                linies_.Requery();
-              });
-        } catch (const Error_Brollador& error) {
-          passatger = error.Es_Passatger();
-          throw;
-        }
-        graella_linies_->Mostrar_Fila_Afegida();
-        Aplicar_Estat();
-        bloquejat_.reset();
-        Alliberar_Entrada();
-      },
-      [this] {
-        bloquejat_.reset();
-        Cancellar_Edicions();
-      });
-  return !passatger;
-}
-
-// After a failure the screen shows what the database holds.
-void Editor_Document::Cancellar_Edicions() {
-  linies_.CancelUpdate();
-  cap_->Cancellar();
-  Requerir_Linies();
-  Refrescar_Peu();
-  Posar_Import(Total_Document(Tipus(), Numero(), sessio.Empresa_Actual));
-  Aplicar_Estat();
-}
-
-void Editor_Document::Requerir_Linies() {
-  sessio.Posicio_Guardada = static_cast<std::int32_t>(linies_.AbsolutePosition());
-  linies_.Requery();
-  Reposicionar(linies_, sessio.Posicio_Guardada - 1);
-  graella_linies_->Refrescar();
-}
-
-void Editor_Document::Esborrar_Linia_Actual() {
-  if (graella_linies_->Fila_Actual() < 0 || Tancat()) return;
-  const auto camp = [this](const char* paper) {
-    return graella_linies_->Valor_Actual(Tipus().lin.Columna(paper).c_str());
-  };
-  const Linia_A_Esborrar linia{.numero = static_cast<std::int16_t>(camp("LIN").Enter()),
-                               .article = camp("ARTICLE").Text(),
-                               .unitats = Nul_A_Defecte(camp("UNITATS")).Doble()};
-  const Capcalera_Oberta cap = cap_->Oberta();
-  const auto linies_esborrades = Passos_De(Tipus()).linies_esborrades;
-  Transaccio transaccio(sessio.Connexio_Comuna);
-  if (!Esborrar_Linia(Tipus(), cap, linia)) return;
-  Requerir_Linies();
-  if (graella_peu_ != nullptr) Buidar_Peu(Tipus(), Numero(), sessio.Empresa_Actual);
-  Calcular_Totals(Tipus(), Numero(), sessio.Empresa_Actual, *this);
-  if (linies_esborrades != nullptr) linies_esborrades(cap, *this);
-  transaccio.Confirmar();
-  Refrescar_Peu();
-  Aplicar_Estat();
-}
-
-void Editor_Document::Desplacar_Linia(bool avall) {
-  const std::int64_t fila = graella_linies_->Fila_Actual();
-  if (fila < 0) return;
-  const Valor linia = graella_linies_->Valor_Actual(Tipus().lin.Columna("LIN").c_str());
-  if (!Moure_Linia(Tipus(), Numero(), sessio.Empresa_Actual, static_cast<std::int16_t>(linia.Enter()), avall)) return;
-  linies_.Requery();
-  linies_.AbsolutePosition(fila + 1 + (avall ? 1 : -1));
-  graella_linies_->Refrescar();
-}
-
-void Editor_Document::Valorar() {
-  Transaccio transaccio(sessio.Connexio_Comuna);
-  Calcular_Totals(Tipus(), Numero(), sessio.Empresa_Actual, *this);
-  transaccio.Confirmar();
-}
-
-void Editor_Document::Imprimir(const char* proposit) {
-  if (Dret() != "C") Desar_Capcalera();
-  sessio.Crida_Document = std::string(Tipus().formulari) + proposit;
-  descripcio_.imprimir(Tipus(), Numero(), sessio.Empresa_Actual, impressio_per_dialeg);
-}
-
-// The payments screen asks the session for the document, and never this form.
-void Editor_Document::Obrir_Pagaments() {
-  if (!cap_->Esta_Marcada("PAGAMENT")) {
-    sessio.pantalla->Caixa(descripcio_.sense_pagaments, estil::critic);
-    return;
-  }
-  sessio.Pag_Document = Tipus().lletra_pagament;
-  sessio.Pag_Numero = static_cast<std::int32_t>(Numero().Enter());
-  sessio.Pag_Client = cap_->Text(descripcio_.qui->codi);
-  sessio.Pag_Total = cap_->Import();
-  Obrir(QStringLiteral("F_PAGDOC"));
-}
-
-// ---- Closing ----------------------------------------------------------------------------------------------------
-
-// Each step runs whatever became of the one before: a document that cannot be saved is released all the same, and one
-// that is gone is told of once.
-void Editor_Document::Descarregar() {
-  if (Dret() != "C") {
-    bool desada = false;
-    Guardar_Event([this] { Acceptar_Numero(); });  // typed, and the field never left
-    Guardar_Event([&] {
-      Desar_Capcalera();
-      desada = true;
-    });
-    Guardar_Event([&] {
-      const bool hi_es = Esborrar_Document_Buit(Tipus(), Numero(), sessio.Empresa_Actual) != Buit::Perdut;
-      if (desada && !hi_es) Llancar_Error(errors::concurrencia, std::string(Tipus().formulari));
-    });
-  }
-  Alliberar_Per_Tipus(std::string(Tipus().lletra_bloqueig), Numero().Text());
-  graella_linies_->Lligar(nullptr);
-  if (graella_peu_ != nullptr) graella_peu_->Lligar(nullptr);
-  cap_->Tancar();
-  for (Recordset* rs : {&linies_, &peu_}) rs->Close();
-  if (descripcio_.qui != nullptr && descripcio_.qui->document_tancat != nullptr)
-    Guardar_Event([this] { descripcio_.qui->document_tancat(); });
-}
-
-// ---- What the status line and the tooltips tell -----------------------------------------------------------------
 
 QString Editor_Document::Que_Mostra() const {
   return windowTitle() + u' ' + QString::fromStdString(Numero().Text());

@@ -20,8 +20,6 @@ Apunt_Estoc Preparar_Estoc(const Tipus_Document& tipus, const Capcalera_Oberta& 
   return passos.estoc == nullptr ? Apunt_Estoc() : passos.estoc(cap, article, signe, unitats);
 }
 
-// ---- Writing
-
 // What the line needs to know, asked for at once.
 void Demanar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
   if (cap.iva) Demanar_IVA(linia.iva_article);
@@ -78,8 +76,6 @@ void Apuntar(const Tipus_Document& tipus, const Apunt_Estoc& estoc) {
     throw Error_Brollador(errors::refusat, std::string(tipus.formulari), tipus.error_estoc, error.Motiu());
   }
 }
-
-// ---- New rates
 
 // The rates that each article of the document takes today; an article is looked up once.
 class Taxes_Per_Article {

@@ -40,13 +40,7 @@ void F_ArticlesMC::Activar() {
   const std::string sentencia = SQL_Articles(cerca->Criteris());
   // Under the same criteria the order that a header has given stays.
   const bool els_mateixos = Sense_Ordre(rs_.Source()) == Sense_Ordre(sentencia);
-  sessio.Posicio_Guardada = static_cast<std::int32_t>(rs_.AbsolutePosition());
-  if (els_mateixos) {
-    rs_.Requery();
-  } else {
-    rs_.Reopen(sentencia);
-  }
-  Reposicionar(rs_, sessio.Posicio_Guardada - 1);
+  Requerir_Alla_Mateix(rs_, els_mateixos ? std::string() : sentencia);
   ui_->G_ArticlesMC->Lligar(&rs_);
 }
 

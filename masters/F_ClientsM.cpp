@@ -5,6 +5,7 @@
 #include <QHeaderView>
 
 #include "core/formularis/Aparenca.h"
+#include "masters/M_Aniversaris.h"
 #include "masters/M_Clients.h"
 #include "ui_F_ClientsM.h"
 

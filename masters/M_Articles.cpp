@@ -97,8 +97,6 @@ void Esborrar_Article(const std::string& codi, const std::string& descripcio) {
                   descripcio, clau, codi, us);
 }
 
-// ---- Prices -----------------------------------------------------------------------------------------------------
-
 namespace {
 
 double Percentatge(double part, double total) {
@@ -129,8 +127,6 @@ Preus Recalcular_Preus(const std::string& camp, Preus preus) {
   }
   return preus;
 }
-
-// ---- Statements -------------------------------------------------------------------------------------------------
 
 std::string SQL_Articles(const Criteris_Articles& criteris) {
   std::string condicions;

@@ -1,5 +1,5 @@
-// Customers, shared by all companies. Reads CLIENTS, CLIENTS_DADES, VENCIMENTS and the heads of documents; writes
-// CLIENTS, CLIENTS_DADES.
+// Customers, shared by all companies. Reads CLIENTS, CLIENTS_DADES and the heads of documents; writes CLIENTS,
+// CLIENTS_DADES.
 #pragma once
 
 #include <array>
@@ -26,22 +26,14 @@ void Assegurar_Dades_Client(const std::string& nif);
 void Esborrar_Dades_Sobreres(const std::string& nif, const std::string& nif_abans);
 void Avisar_Client_Existent();  // the box of a tax code that is taken
 
-// Due dates of `import` euros from `data` by the customer's terms: nothing, the description of the terms, and the text
-// "25/04/2011 100 ; ". Halves go to the even digit.
-std::array<std::string, 3> Venciments_Factura(const std::string& nif, const Data_Hora& data, double import);
-
-// A birthday between today and so many days from now, in this year; never with less than one day.
-bool Hi_Ha_Aniversaris(int dies);
-// At a login: takes the days of the terminal's parameter, and tells whether to warn. Raises 13 when it is no number,
-// 6 when it is too large a one.
-bool Toca_Avisar_Aniversaris();
 // The e-mail addresses of a list's customers, in the order of their codes, joined by semicolons.
 std::string Emails_Clients(Recordset& clients);
 
-// Statements: the lists, by a part of the name (empty: all); the editor; its additional data; its sales, of all
+// The condition of a part of the name.
+std::string Condicio_Nom_Client(const std::string& text);
+// Statements: the list, by a part of the name (empty: all); the editor; its additional data; its sales, of all
 // companies; the combo of a document.
 std::string SQL_Clients(const std::string& text);
-std::string SQL_Aniversaris(const std::string& text);
 std::string SQL_Client(const std::string& nif);
 std::string SQL_Client_Dades(const std::string& nif);
 std::string SQL_Vendes_Client(const std::string& nif);

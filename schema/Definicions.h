@@ -13,17 +13,14 @@
 // Statements ended by ';' at the end of a line; lines of comment begin with --.
 void Executar_Fitxer(Connexio& connexio, std::string_view text);
 
-// ---- The local database
-
-// Makes it, with the texts, in a file that is not there yet and that is the user's alone. Raises 1008.
+// Makes the local database, with the texts, in a file that is not there yet and that is the user's alone. Raises 1008.
 void Crear_Local(const std::string& cami);
 bool Es_Local_Al_Dia(Connexio& local);
 // Makes the file of a local database anew, with the parameters of the one that is there. Nobody may have it open. When
 // it fails the old one stands as it was.
 void Renovar_Local(const std::string& cami);
 
-// ---- The shared database
-
+// A step of the shared database to a later version.
 struct Pas_De_Versio {
   int numero;
   std::string_view fitxer;  // its name among those that travel in the program

@@ -84,8 +84,6 @@ std::vector<Empresa_Activa> Empreses_Actives() {
   return actives;
 }
 
-// ---- The companies themselves -----------------------------------------------------------------------------------
-
 std::string Nova_Empresa() {
   std::string codi = Proxim_Codi("EMPRESES");
   Crear_Fila("EMPRESES", {{"NIF_EMP", codi},

@@ -135,8 +135,6 @@ void Actualitzar_Menu_Sessio() {
   sessio.pantalla->Menu_Text("M_Sel_Empresa", Titol_Menu_Empresa());
 }
 
-// ---- The users themselves ---------------------------------------------------------------------------------------
-
 std::string Nou_Usuari() {
   std::string codi = Proxim_Codi("USUARIS");
   std::vector<std::pair<std::string_view, Valor>> valors = {{"CODI_USU", codi},

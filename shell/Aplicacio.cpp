@@ -11,7 +11,7 @@
 #include "masters/F_Mestres.h"
 #include "masters/F_Referencies.h"
 #include "masters/M_CP.h"
-#include "masters/M_Clients.h"
+#include "masters/M_Aniversaris.h"
 #include "payments/F_PagDoc.h"
 #include "sales/F_Vendes.h"
 #include "session/F_Empresa.h"

@@ -8,8 +8,7 @@
 
 namespace {
 
-// ---- What some rows ask for besides their letter ----------------------------------------------------------------
-
+// What some rows ask for besides their letter.
 bool Es_ADMIN(const Formulari& /*formulari*/) {
   return sessio.Usuari_Actual == "ADMIN";
 }
@@ -27,8 +26,6 @@ bool Es_Pot_Facturar(const Formulari& /*formulari*/) {
       cerca == nullptr ? nullptr : qobject_cast<Combo_Codi*>(cerca->Cercar_Control(QStringLiteral("CMB_CLIENT")));
   return sessio.P_Factures == "M" && client != nullptr && !client->Codi().empty();
 }
-
-// ---- The table --------------------------------------------------------------------------------------------------
 
 const std::vector<Fila_Drets>& Files() {
   using S = Sessio;

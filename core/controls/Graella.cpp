@@ -4,37 +4,17 @@
 #include <QHeaderView>
 #include <QLocale>
 #include <QPainter>
-#include <QScopedValueRollback>
 #include <algorithm>
 #include <utility>
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Delegat_Graella.h"
-#include "core/controls/Fila_Recordada.h"
 #include "core/controls/Model_Recordset.h"
-#include "core/dades/Dialecte.h"
 #include "core/formularis/Formulari.h"
-#include "core/formularis/Memoria_Pantalles.h"
 
 namespace {
 
-constexpr int twips_per_pixel = 15;
 constexpr int alcada_fila = 24;
-
-struct Ordre_De_Files {
-  QString camp;  // empty: none
-  Qt::SortOrder sentit = Qt::AscendingOrder;
-};
-
-// What a statement is ordered by in the first place.
-Ordre_De_Files Ordre_De(const std::string& sentencia) {
-  constexpr QStringView mots = u"ORDER BY";
-  const QString ordre = QString::fromStdString(sentencia.substr(Sense_Ordre(sentencia).size())).simplified();
-  if (!ordre.startsWith(mots, Qt::CaseInsensitive)) return {};
-  const QStringList primer = ordre.mid(mots.size()).section(u',', 0, 0).split(u' ', Qt::SkipEmptyParts);
-  const bool descendent = primer.value(1).compare(QLatin1String("DESC"), Qt::CaseInsensitive) == 0;
-  return {primer.value(0).section(u'.', -1), descendent ? Qt::DescendingOrder : Qt::AscendingOrder};
-}
 
 }  // namespace
 
@@ -186,119 +166,6 @@ void Graella::Titol_Columna(int index, const QString& titol) {
 QString Graella::Titol_Columna(int index) const {
   return model_->Titol(index);
 }
-
-// ---- Order ------------------------------------------------------------------------------------------------------
-
-void Graella::Ordenar_Per(const QString& camp) {
-  Recordset* rs = model_->Lligat();
-  if (rs == nullptr || !rs->State() || !Desar_Fila()) return;
-  const Fila_Recordada fila(*rs);
-  rs->Reopen(Sense_Ordre(rs->Source()) + " ORDER BY " + camp.toStdString());
-  fila.Tornar_Hi();
-  Lligar(rs);
-}
-
-void Graella::Permetre_Ordre(bool permes) {
-  horizontalHeader()->setSectionsClickable(permes);
-  horizontalHeader()->setSortIndicatorShown(permes);
-}
-
-int Graella::Columna_De_L_Ordre() const {
-  const Recordset* rs = model_->Lligat();
-  if (rs == nullptr || !rs->State()) return -1;
-  const int columna = model_->Columna_De(Ordre_De(rs->Source()).camp);
-  return columna < 0 || isColumnHidden(columna) ? -1 : columna;
-}
-
-void Graella::Mostrar_Ordre() {
-  const int columna = Columna_De_L_Ordre();
-  horizontalHeader()->setSortIndicator(columna,
-                                       columna < 0 ? Qt::AscendingOrder : Ordre_De(model_->Lligat()->Source()).sentit);
-}
-
-// ---- Widths -----------------------------------------------------------------------------------------------------
-
-// What the column asks for, or what its title does, with the arrow of the order where there may be one.
-int Graella::Amplada_Propia(int columna) const {
-  const int voltant = horizontalHeader()->isSortIndicatorShown() ? 24 : 12;
-  const int titol = fontMetrics().horizontalAdvance(model_->Titol(columna)) + voltant;
-  return std::max(model_->Columnes()[static_cast<std::size_t>(columna)].amplada / twips_per_pixel, titol);
-}
-
-int Graella::Amplada_Donada(int columna) const {
-  return amplades_[static_cast<std::size_t>(columna)];
-}
-
-// As they are seen, from left to right; -1 none.
-int Graella::Columna_Visible(bool ultima) const {
-  const QHeaderView& capcalera = *horizontalHeader();
-  const int quantes = capcalera.count();
-  for (int lloc = 0; lloc < quantes; ++lloc) {
-    const int columna = capcalera.logicalIndex(ultima ? quantes - 1 - lloc : lloc);
-    if (!capcalera.isSectionHidden(columna)) return columna;
-  }
-  return -1;
-}
-
-void Graella::Canviada_D_Amplada(int columna, int amplada) {
-  if (omplint_ || amplada == 0 || columna >= static_cast<int>(amplades_.size())) return;
-  amplades_[static_cast<std::size_t>(columna)] = amplada;
-  Omplir_Amplada();
-}
-
-// One that the user made wider or narrower stays so.
-int Graella::Columna_Que_Creix() const {
-  const auto& columnes = model_->Columnes();
-  const auto que = std::ranges::find(columnes, true, &Columna_Graella::creix);
-  const int columna = que == columnes.end() ? -1 : static_cast<int>(que - columnes.begin());
-  const bool propia = columna >= 0 && !isColumnHidden(columna) && Amplada_Donada(columna) == Amplada_Propia(columna);
-  return propia ? columna : Columna_Visible(true);
-}
-
-// One column takes what the others leave, and never less than it was given.
-void Graella::Omplir_Amplada() {
-  const int creix = Columna_Que_Creix();
-  if (omplint_ || creix < 0) return;
-  const QScopedValueRollback guarda(omplint_, true);
-  for (int columna = 0; columna < horizontalHeader()->count(); ++columna) {
-    if (!isColumnHidden(columna)) setColumnWidth(columna, Amplada_Donada(columna));
-  }
-  const int resta = viewport()->width() - horizontalHeader()->length();
-  if (resta > 0) setColumnWidth(creix, Amplada_Donada(creix) + resta);
-}
-
-void Graella::resizeEvent(QResizeEvent* event) {
-  QTableView::resizeEvent(event);
-  Omplir_Amplada();
-}
-
-QString Graella::Nom_Formulari() const {
-  const QWidget* formulari = parentWidget();
-  while (formulari != nullptr && qobject_cast<const Formulari*>(formulari) == nullptr)
-    formulari = formulari->parentWidget();
-  return formulari == nullptr ? QString() : formulari->objectName();
-}
-
-void Graella::Desar_Amplades() const {
-  int columna = -1;
-  for (const auto& que : model_->Columnes()) {
-    ++columna;
-    if (que.amplada == 0) continue;
-    Recordar_Amplada(Nom_Formulari(), objectName(), QString::fromUtf8(que.camp), Amplada_Donada(columna),
-                     Amplada_Propia(columna));
-  }
-}
-
-void Graella::Recuperar_Amplades() {
-  int columna = -1;
-  for (const auto& que : model_->Columnes()) {
-    ++columna;
-    const auto desada = Amplada_Recordada(Nom_Formulari(), objectName(), QString::fromUtf8(que.camp));
-    if (que.amplada > 0 && desada) Canviada_D_Amplada(columna, *desada);
-  }
-}
-
-// ---- What is in it ----------------------------------------------------------------------------------------------
 
 void Graella::Seleccio_Multiple(bool multiple) {
   multiple_ = multiple;

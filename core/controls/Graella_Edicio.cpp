@@ -98,8 +98,6 @@ bool Graella::edit(const QModelIndex& index, EditTrigger motiu, QEvent* event) {
   return QTableView::edit(index, motiu, event);
 }
 
-// ---- From cell to cell ------------------------------------------------------------------------------------------
-
 // Enter goes on through the row; Tab opens the next cell.
 void Graella::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint com) {
   using enum QAbstractItemDelegate::EndEditHint;

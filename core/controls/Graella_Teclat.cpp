@@ -74,8 +74,6 @@ QModelIndex Graella::moveCursor(CursorAction accio, Qt::KeyboardModifiers amb) {
   return QTableView::moveCursor(accio, amb);
 }
 
-// ---- Copying ----------------------------------------------------------------------------------------------------
-
 bool Graella::Copia(const QKeyEvent& event) const {
   constexpr auto la_cella = Qt::ControlModifier | Qt::ShiftModifier;
   if (event.key() != Qt::Key_C || (event.modifiers() & Qt::ControlModifier) == 0) return false;
@@ -104,8 +102,6 @@ QString Graella::Taula_Copiada() const {
   return files.empty() ? QString() : linies.join(u'\n') + u'\n';
 }
 
-// ---- Finding a row by its first letters -------------------------------------------------------------------------
-
 void Graella::keyboardSearch(const QString& lletres) {
   if (lletres.isEmpty() || !lletres[0].isPrint()) return;
   if (!des_de_l_ultima_.isValid() || des_de_l_ultima_.hasExpired(pausa)) escrit_.clear();
@@ -129,8 +125,6 @@ void Graella::Cercar_Escrit() {
     return scrollTo(index);
   }
 }
-
-// ---- Disabled, and read all the same ----------------------------------------------------------------------------
 
 bool Graella::Es_De_Llegir() const {
   return !isEnabled() && parentWidget() != nullptr && parentWidget()->isEnabled();

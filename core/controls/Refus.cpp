@@ -28,8 +28,6 @@ QString Paraules_De(const QWidget* camp) {
                                          "The field does not take this value."));
 }
 
-// ---- The line below the form ------------------------------------------------------------------------------------
-
 Formulari* Formulari_De(QWidget* camp) {
   while (camp != nullptr && qobject_cast<Formulari*>(camp) == nullptr) camp = camp->parentWidget();
   return static_cast<Formulari*>(camp);
@@ -92,8 +90,6 @@ void Posar_Nota(QWidget* camp, const QString& text) {
   }
   nota->Mostrar(text);
 }
-
-// ---- The field --------------------------------------------------------------------------------------------------
 
 // What shows the text of a field.
 QWidget* Cara_De(QWidget* camp) {

@@ -21,8 +21,6 @@ bool Es(const QString& nom, const char16_t* esperat) {
   return nom.toUpper() == QStringView(esperat);
 }
 
-// ---- Writing ----------------------------------------------------------------------------------------------------
-
 // What the row gives to the targets of a call.
 struct Valor_Per {
   QWidget* control;
@@ -94,8 +92,6 @@ void Portar_El_Focus(const Formulari& formulari, QWidget* camp) {
   }
   Posar_Focus(camp);
 }
-
-// ---- Opening ----------------------------------------------------------------------------------------------------
 
 QWidget* Camp_Que_Crida(const Crida& crida, const Formulari& formulari) {
   const bool de_codi = crida.mena == Mena_Crida::Camp || crida.mena == Mena_Crida::Combo;

@@ -73,9 +73,7 @@ void Requerir(Formulari* pare) {
   Recordset* rs = pare->Recordset_Llista();
   if (rs == nullptr) return;
   pare->Preparar_Requery();
-  sessio.Posicio_Guardada = static_cast<std::int32_t>(rs->AbsolutePosition());
-  rs->Requery();
-  Reposicionar(*rs, sessio.Posicio_Guardada - 1);
+  Requerir_Alla_Mateix(*rs);
   if (Graella* graella = pare->Graella_Llista()) graella->Refrescar();
 }
 

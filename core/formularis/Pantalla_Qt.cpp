@@ -1,9 +1,12 @@
 #include "core/formularis/Pantalla_Qt.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
+#include <chrono>
 #include <stdexcept>
 
 #include "core/M_Funcions_Comuns.h"
@@ -122,6 +125,12 @@ Document_Obert* Pantalla_Qt::Document(std::string_view nom_formulari) {
 // Lets the windows paint; what the user does meanwhile waits, or is swallowed while the input is blocked.
 void Pantalla_Qt::Processar_Events() {
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void Pantalla_Qt::Esperar(std::int32_t segons) {
+  QEventLoop bucle;
+  QTimer::singleShot(std::chrono::seconds(segons), &bucle, &QEventLoop::quit);
+  bucle.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void Pantalla_Qt::Bloquejar_Entrada() {

@@ -21,6 +21,7 @@ class Pantalla_Qt : public QObject, public Pantalla {
   bool Formulari_Carregat(std::string_view nom) const override;
   Document_Obert* Document(std::string_view nom_formulari) override;
   void Processar_Events() override;
+  void Esperar(std::int32_t segons) override;
   void Bloquejar_Entrada() override;
   void Alliberar_Entrada() override;
   void Menu_Habilitat(std::string_view entrada, bool habilitat) override;

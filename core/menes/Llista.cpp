@@ -109,8 +109,6 @@ void Llista::Descarregar() {
 }
 
 void Llista::Requerir() {
-  sessio.Posicio_Guardada = static_cast<std::int32_t>(rs_.AbsolutePosition());
-  rs_.Requery();
-  Reposicionar(rs_, sessio.Posicio_Guardada - 1);
+  Requerir_Alla_Mateix(rs_);
   graella_->Refrescar();
 }

@@ -12,7 +12,7 @@
 #include "documents/M_Linies.h"
 #include "documents/M_Peu.h"
 #include "masters/M_Articles.h"
-#include "masters/M_Clients.h"
+#include "masters/M_Venciments_Factura.h"
 #include "payments/M_Flags.h"
 #include "sales/M_Tipus_Venda.h"
 #include "stock/M_Magatzems.h"
@@ -37,8 +37,6 @@ Veredicte Comparar(const std::string& que, double vist, double esperat) {
   return text.str();
 }
 
-// ---- Files
-
 std::vector<std::string> Linies_De(const std::filesystem::path& fitxer) {
   std::ifstream entrada(fitxer);
   std::vector<std::string> linies;
@@ -62,8 +60,6 @@ double Numero_De(const Fila& fila, const char* columna) {
   if (error != std::errc() || fi != text.data() + text.size()) throw std::runtime_error("no number: " + text);
   return numero;
 }
-
-// ---- Figures without tables
 
 Veredicte Provar_Arrodonir(const Fila& fila) {
   return Comparar("resultat", Arrodonir(Numero_De(fila, "valor"), Numero_De(fila, "decimals")),
@@ -113,8 +109,6 @@ Veredicte Provar_Preus(const Fila& fila) {
   if (veredicte.empty()) veredicte = Comparar("descompte", vists.descompte, numero("descompte_r"));
   return veredicte;
 }
-
-// ---- Figures on a database
 
 void Executar(const std::string& sentencia) {
   sessio.Connexio_Comuna.Execute(sentencia);
@@ -297,8 +291,6 @@ Veredicte En_Base(const std::function<Veredicte()>& prova) {
 std::function<Veredicte(const Json&)> Donat_Per_Perdut(Veredicte (*prova)(const Json&)) {
   return [prova](const Json& cas) { return En_Base([&] { return prova(cas); }); };
 }
-
-// ---- Counting
 
 Veredicte Provar_Venciments(const Fila& fila) {
   return En_Base([&]() -> Veredicte {

@@ -148,8 +148,6 @@ TEST_F(Al_Davant, Forms_stay_inside_an_area_that_shrinks) {
   EXPECT_TRUE(Lloc().contains(Marc("F_CLIENTSM")->geometry()));
 }
 
-// ---- Sizes
-
 TEST_F(Al_Davant, A_size_that_the_program_gave_is_not_remembered) {
   Registrar("F_CLIENTSM");
   Obrir(QStringLiteral("F_CLIENTSM"));
@@ -184,8 +182,6 @@ TEST(Finestra_Gran, What_is_no_state_counts_as_none) {
   finestra.Mostrar();
   EXPECT_TRUE(finestra.isMaximized());
 }
-
-// ---- The status line
 
 TEST_F(Al_Davant, The_status_line_tells_the_row_in_front_and_whether_it_is_saved) {
   Registrar_Formularis();
@@ -226,8 +222,6 @@ TEST(Nom_De_La_Base, Is_a_name_without_a_password) {
             QStringLiteral("botiga @ servidor"));
 }
 
-// ---- Keys of the menu and of the form in front
-
 TEST_F(Al_Davant, A_letter_that_both_have_is_the_form_s_and_the_menu_has_the_others) {
   Registrar_Formularis();
   Habilitar_Menus(true);
@@ -239,8 +233,6 @@ TEST_F(Al_Davant, A_letter_that_both_have_is_the_form_s_and_the_menu_has_the_oth
   Assentar();
   EXPECT_NE(Obert("F_HELP"), nullptr);
 }
-
-// ---- Texts
 
 TEST_F(Al_Davant, A_wrong_row_of_TEXTS_is_told_and_the_form_opens_as_it_was_designed) {
   for (const char* nom : {"F_ALBARANSM", "F_ALBARANSS"}) {
@@ -263,8 +255,6 @@ TEST_F(Al_Davant, A_wrong_row_of_TEXTS_is_told_and_the_form_opens_as_it_was_desi
   EXPECT_EQ(Obert("F_ALBARANSM")->windowTitle(), QStringLiteral("F_ALBARANSM"));
   EXPECT_FALSE(Habilitat("F_ALBARANSS"));
 }
-
-// ---- Colours
 
 TEST(Paletes, A_dark_desktop_is_followed) {
   QPalette fosca(QColor(40, 40, 45), QColor(30, 30, 34));

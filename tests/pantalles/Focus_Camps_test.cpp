@@ -52,8 +52,6 @@ TEST(Focus_Camps, Leaving_runs_before_entering_and_neither_runs_while_the_focus_
   EXPECT_EQ(a.selectedText(), QStringLiteral("bad"));
 }
 
-// ---- The mouse wheel
-
 namespace {
 
 void Girar_La_Roda(QWidget* sobre) {
@@ -92,8 +90,6 @@ TEST(Roda, Changes_no_field_that_nobody_is_in_and_no_code_but_in_its_list) {
   EXPECT_EQ(simple->currentIndex(), 1);
 }
 
-// ---- Fields that refuse what they hold
-
 TEST(Refus, Is_seen_in_the_field_with_the_focus_in_its_tooltip_and_below_the_form) {
   Formulari formulari(QStringLiteral("F_Prova"));
   QVBoxLayout columna(&formulari);
@@ -124,8 +120,6 @@ TEST(Refus, Is_seen_in_the_field_with_the_focus_in_its_tooltip_and_below_the_for
   EXPECT_EQ(camp->toolTip(), QStringLiteral("Quants"));
   EXPECT_EQ(camp->palette().color(QPalette::Base), abans);
 }
-
-// ---- Whatever acts on a form leaves its field first
 
 TEST(Focus_Camps, A_button_pressed_by_its_key_leaves_the_field_first_and_waits_for_one_that_refuses) {
   QStringList fets;

@@ -42,8 +42,6 @@ TEST_F(Finestres, A_second_opening_finds_the_same_instance) {
   EXPECT_EQ(Formularis_Carregats().size(), 1U);
 }
 
-// ---- The right button on a reference table
-
 TEST_F(Finestres, The_right_button_searches_the_terms_and_the_methods_of_payment_alone) {
   Registrar_Formularis();
   for (const auto& [nom, cerca] : {std::pair("F_VENCIMENTSM", true), std::pair("F_FORMESPAGAMENTM", true),

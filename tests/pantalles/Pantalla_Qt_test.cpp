@@ -1,5 +1,6 @@
 #include "core/formularis/Pantalla_Qt.h"
 
+#include <QAbstractEventDispatcher>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -52,6 +53,18 @@ TEST(Pantalla_Qt, Events_that_rules_let_run_leave_the_keys_for_later) {
   Teclejar_A_La_Cua(&camp);
   QCoreApplication::processEvents();
   EXPECT_EQ(camp.text(), QStringLiteral("a"));
+}
+
+TEST(Pantalla_Qt, A_wait_lets_events_run_and_sleeps_between_them) {
+  Pantalla_Qt pantalla;
+  QLineEdit camp;
+  QSignalSpy desperta(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake);
+  bool fet = false;
+  QTimer::singleShot(100, qApp, [&] { fet = true; });
+  Teclejar_A_La_Cua(&camp);
+  pantalla.Esperar(1);
+  EXPECT_TRUE(fet);
+  EXPECT_LT(desperta.count(), 100);  // a loop at full speed wakes up hundreds of thousands of times
 }
 
 TEST(Pantalla_Qt, A_box_of_few_words_has_room_for_its_title) {

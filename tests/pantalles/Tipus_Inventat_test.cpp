@@ -16,8 +16,6 @@
 
 namespace {
 
-// ---- The kind
-
 void Columnes_De_Diposit(const Capcalera_Oberta& /*cap*/, const Linia_Entrada& linia, Recordset& fila) {
   fila.Set("LOT_DL", linia.altres.at("LOT"));
 }
@@ -69,8 +67,6 @@ const Descripcio_Editor editor = {.tipus = tipus_diposit,
 
 constexpr Pare pares[] = {{u"F_DIPOSIT", u"F_DIPOSITSM", true}, {u"F_DIPOSITSM", u"F_DIPOSITSS"}};
 constexpr const char16_t* sense_pares[] = {u"F_DIPOSITSS"};
-
-// ---- Its controls, where a kind of the program has its .ui files
 
 template <class Control>
 void Posar(QWidget* on, std::initializer_list<const char*> noms) {

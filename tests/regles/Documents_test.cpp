@@ -25,8 +25,6 @@ class Documents : public Base_Dades {
   static std::int64_t Files_De(const Taula_Document& taula) { return Files("SELECT * FROM " + std::string(taula.nom)); }
 };
 
-// ---- Statements
-
 TEST(Documents_SQL, a_column_is_a_role_word_and_the_suffix_of_its_table) {
   EXPECT_EQ(tipus_albara.lin.Columna("NUMALB"), "NUMALB_AL");
   EXPECT_EQ(tipus_albcompra.peu.Columna("PORC_IVA"), "PORC_IVA_ACP");
@@ -71,8 +69,6 @@ TEST(Documents_SQL, the_letters_of_locks_and_of_payments_are_two_matters) {
   EXPECT_EQ(tipus_pressupost.lletra_pagament, "");
 }
 
-// ---- Numbers as they are typed
-
 TEST(Numero_Escrit, is_a_whole_number_from_1_to_what_its_column_holds) {
   for (const char* text : {"12", " 12 ", "12,0"}) EXPECT_EQ(Numero_Escrit(tipus_albara, text), Valor(12)) << text;
   EXPECT_EQ(Numero_Escrit(tipus_albara, "2147483647"), Valor(2147483647));
@@ -98,8 +94,6 @@ TEST(Numero_Per_A_Fitxer, leaves_its_folder_in_no_case) {
   EXPECT_EQ(Numero_Per_A_Fitxer("../../etc"), "------etc");
   EXPECT_EQ(Numero_Per_A_Fitxer("...\\\n"), "--.--");
 }
-
-// ---- Deleting a whole document
 
 TEST_F(Documents, each_kind_asks_in_its_own_words_and_Cancel_keeps_the_document) {
   for (const Tipus_Document* tipus : Tipus_Registrats()) {
@@ -138,8 +132,6 @@ TEST(Tipus_De_Document, all_six_are_told_and_are_told_once) {
   Registrar_Tipus(tipus_albara);
   EXPECT_EQ(Tipus_Registrats().size(), 6U);
 }
-
-// ---- Heads and numbers
 
 TEST_F(Documents, the_first_number_of_a_company_is_1_in_every_kind) {
   for (const Tipus_Document* tipus :
@@ -233,8 +225,6 @@ TEST_F(Documents, a_document_exists_in_its_company) {
   EXPECT_FALSE(Existeix_Document(tipus_albara, 7, "C1"));
 }
 
-// ---- Lines
-
 TEST_F(Documents, lines_are_numbered_from_1_and_a_removed_line_leaves_its_gap) {
   Posar_Cap(tipus_albara, 7);
   EXPECT_EQ(Seguent_Linia(tipus_albara, 7, empresa_prova), 1);
@@ -290,8 +280,6 @@ TEST_F(Linies_Que_Es_Mouen, the_first_does_not_go_up_nor_the_last_down) {
   EXPECT_FALSE(Intercanviar_Linia(tipus_albara, 7, empresa_prova, 5, true));
   EXPECT_EQ(Ordre(), "1:línia 1 2:línia 2 5:línia 5 ");
 }
-
-// ---- What goes with a head
 
 TEST_F(Documents, lines_and_foot_go_with_the_head_of_a_sales_document) {
   for (const Tipus_Document* tipus : {&tipus_pressupost, &tipus_comanda, &tipus_albara, &tipus_factura}) {

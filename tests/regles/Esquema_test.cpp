@@ -87,8 +87,6 @@ class Esquema : public Base_Dades {
   }
 };
 
-// ---- What stands where
-
 TEST_F(Esquema, the_shared_database_holds_the_business) {
   EXPECT_EQ(Noms(sessio.Connexio_Comuna), taules_comunes);
 }
@@ -117,8 +115,6 @@ TEST_F(Esquema, a_customer_and_a_supplier_may_carry_the_same_tax_code) {
   Executar("INSERT INTO PROVEIDORS (NIF_PRO) VALUES ('B1')");
   EXPECT_EQ(Files("SELECT NIF_CLI FROM CLIENTS, PROVEIDORS WHERE NIF_CLI = NIF_PRO"), 1);
 }
-
-// ---- Keys
 
 TEST_F(Esquema, a_code_is_taken_whatever_its_case) {
   Executar("INSERT INTO FAMILIES (CODI_FAM) VALUES ('abç')");
@@ -183,8 +179,6 @@ TEST_F(Esquema, the_journal_takes_the_same_row_twice) {
   EXPECT_EQ(Numero("SELECT SUM(UNIDADES_MOV) AS S FROM MOVIMIENTOS"), 2);
 }
 
-// ---- Heads, lines and feet
-
 TEST_F(Esquema, a_sales_document_goes_whole) {
   for (const auto& document : vendes) {
     Posar_Document(document, "7");
@@ -237,8 +231,6 @@ TEST_F(Esquema, purchase_and_transfer_notes_follow_their_number) {
 TEST_F(Esquema, a_line_without_a_head_is_refused) {
   EXPECT_EQ(Error_De([] { Posar("ALBARALIN", "AL", "7", "LIN_AL", "1"); }).Numero(), errors::general);
 }
-
-// ---- What a row holds when a statement names only some of its columns
 
 TEST_F(Esquema, a_new_head_is_open_unpaid_and_not_invoiced) {
   Executar("INSERT INTO ALBARACAP (NUMALB_AC, EMPRESA_AC) VALUES (1, 'E')");

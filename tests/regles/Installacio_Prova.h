@@ -61,6 +61,7 @@ class Pantalla_Falsa : public Pantalla {
   int tries_empresa = 0;
   std::function<void()> en_processar_events = [] {};
   int events = 0;
+  int segons_esperats = 0;
   bool entrada_blocada = false;
   std::map<std::string, bool> menus_habilitats;
   std::map<std::string, bool> menus_visibles;
@@ -87,6 +88,7 @@ class Pantalla_Falsa : public Pantalla {
     ++events;
     en_processar_events();
   }
+  void Esperar(std::int32_t segons) override { segons_esperats += segons; }
   void Bloquejar_Entrada() override { entrada_blocada = true; }
   void Alliberar_Entrada() override { entrada_blocada = false; }
   std::string Obrir_Tria_Empresa(const std::string&, int) override {

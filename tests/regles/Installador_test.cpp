@@ -42,8 +42,6 @@ std::string Files_En_Text(Connexio& connexio, const std::string& sentencia) {
 
 }  // namespace
 
-// ---- The base installation
-
 class Base_Installada : public Base_Dades {
  protected:
   static std::string Comuna(const std::string& sentencia) { return Files_En_Text(sessio.Connexio_Comuna, sentencia); }
@@ -114,8 +112,6 @@ TEST_F(Base_Installada, has_its_folders_and_the_address_between_quotes) {
   EXPECT_TRUE(fs::is_directory(sessio.Dir_Dades + "/Temp"));
   EXPECT_EQ(Contingut(sessio.Fitxer_Ini), "\"" + sessio.Dir_Dades + "/comuna.db\"\n");
 }
-
-// ---- Making one
 
 class Installador : public testing::Test {
  protected:
@@ -226,8 +222,6 @@ TEST_F(Installador, a_file_of_statements_leaves_its_comments_out) {
   EXPECT_EQ(Recordset("SELECT * FROM FAMILIES", comuna).RecordCount(), 2);
 }
 
-// ---- The command
-
 class Brollador_Install : public Installador {
  protected:
   // Its exit code; what it said is in `sortida`.
@@ -329,8 +323,6 @@ TEST_F(Brollador_Install, upgrades_the_database_that_the_configuration_names) {
   EXPECT_FALSE(fs::exists(segona));
 }
 
-// ---- Who may read what
-
 TEST_F(Installador, the_data_folder_and_what_lies_in_it_are_the_users_alone) {
   const mode_t abans = umask(0);
   Crear_Base(Opcions());
@@ -343,8 +335,6 @@ TEST_F(Installador, the_data_folder_and_what_lies_in_it_are_the_users_alone) {
     EXPECT_EQ(fs::status(carpeta + cami).permissions(), fitxer) << cami;
   }
 }
-
-// ---- On a server
 
 class Installador_Al_Servidor : public Brollador_Install {
  protected:

@@ -40,8 +40,6 @@ class M_Albarans : public Base_Dades {
   Document_Fals obert;
 };
 
-// ---- Adding a line
-
 TEST_F(M_Albarans, a_line_is_saved_from_its_price_with_the_rates_of_its_type) {
   linia.dte = 10;
   Afegir();
@@ -167,8 +165,6 @@ TEST_F(M_Albarans, an_apostrophe_in_a_description_is_data_and_in_an_article_a_fa
   EXPECT_EQ(Error_De([&] { Afegir(); }).Numero(), errors::sentencia);
   EXPECT_EQ(Linies(), 1);
 }
-
-// ---- Deleting a line
 
 TEST_F(M_Albarans, the_question_names_the_line_in_the_language_of_the_session) {
   Afegir();
@@ -301,8 +297,6 @@ TEST_F(Sense_Comandes, lines_that_proposals_point_at_do_not_move) {
   EXPECT_TRUE(Moure_Linia_Albara(7, empresa_prova, 1, true));
 }
 
-// ---- Deleting a whole note
-
 TEST_F(M_Albarans, a_deleted_note_leaves_stock_and_order_as_they_were) {
   Posar_Comanda(3);
   Posar_Linia_Comanda(3, 1, 4);
@@ -357,8 +351,6 @@ TEST_F(M_Albarans, a_new_note_closed_at_once_gives_its_number_to_the_next) {
   EXPECT_EQ(Seguent_Numero_Albara(empresa_prova), 8);
 }
 
-// ---- State
-
 TEST_F(M_Albarans, a_note_is_blocked_when_invoiced_or_when_a_line_serves_an_order) {
   Afegir();
   EXPECT_FALSE(Albara_Bloquejat(7, empresa_prova));
@@ -385,8 +377,6 @@ TEST_F(M_Albarans, lines_change_places_without_changing_themselves) {
   EXPECT_EQ(Numero("SELECT UNITATS_AL FROM ALBARALIN WHERE LIN_AL = 1"), 9);
   EXPECT_EQ(Numero("SELECT UNITATS_AL FROM ALBARALIN WHERE LIN_AL = 2"), 4);
 }
-
-// ---- Another customer
 
 TEST_F(M_Albarans, a_customer_without_IVA_takes_the_rates_off_and_leaves_net_price_and_margin) {
   Afegir();

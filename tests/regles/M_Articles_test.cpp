@@ -36,8 +36,6 @@ TEST_F(M_Articles, the_warehouse_is_the_articles_own) {
   EXPECT_EQ(Magatzem_Article("ZZ"), "");
 }
 
-// ---- Prices
-
 TEST(Recalcular_Preus, price_and_discount_follow_the_cost_and_the_margin) {
   EXPECT_EQ(Recalcular_Preus("MARGE_ART", {.cost = 100, .marge = 20}), (Preus{100, 20, 120, 16.66667}));
 }
@@ -59,8 +57,6 @@ TEST(Recalcular_Preus, nothing_is_divided_by_a_price_or_a_cost_of_0) {
 TEST(Recalcular_Preus, any_other_column_changes_nothing) {
   EXPECT_EQ(Recalcular_Preus("ULTIM_COST_ART", {1, 2, 3, 4}), (Preus{1, 2, 3, 4}));
 }
-
-// ---- Lists
 
 class Llista_Articles : public Base_Dades {
  protected:

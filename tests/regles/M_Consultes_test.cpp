@@ -22,8 +22,6 @@ const Descripcio_Consulta* const totes_les_consultes[] = {&consulta_pressupostos
                                                           &consulta_albarans,     &consulta_factures,
                                                           &consulta_albcompres,   &consulta_albmag};
 
-// ---- Dates
-
 TEST(Condicio_Data, is_a_range_a_bound_or_nothing) {
   const Data_Hora un{2011, 2, 1};
   const Data_Hora dos{2011, 3, 5};
@@ -59,8 +57,6 @@ TEST(Valors_Per_Defecte, a_month_before_the_last_day_of_a_longer_month_is_the_la
   EXPECT_EQ(des_de(), (Data_Hora{2010, 12, 15}));
   Deixar_Anar_Rellotge();
 }
-
-// ---- Every kind
 
 TEST_F(M_Consultes, what_the_form_shows_when_it_is_cleared_asks_for_nothing_but_the_last_month) {
   Fixar_Avui({2011, 3, 5});
@@ -134,8 +130,6 @@ TEST_F(M_Consultes, the_last_day_of_a_range_of_moments_is_whole) {
   EXPECT_EQ(Condicions(moments, {{"DT_DATA", {.data = dia, .data_y = dia}}}),
             " AND FECHA_MOV BETWEEN #12/31/2011# AND #1/1/2012#");
 }
-
-// ---- Delivery notes
 
 TEST_F(M_Consultes, no_filter_lists_the_company) {
   EXPECT_EQ(Consulta_Albarans({}, false), curta);

@@ -124,8 +124,6 @@ TEST_F(M_Flags, a_walk_inside_a_transaction_goes_with_it) {
   EXPECT_FALSE(Flag_Pagament("A", 1));
 }
 
-// ---- Before a line is added to a note
-
 class Linia_Nova : public M_Flags {
  protected:
   static void Comprovar(std::int64_t albara, std::int64_t comanda) {

@@ -120,35 +120,28 @@ TEST_F(Reposicionar_Llista, does_nothing_on_an_empty_or_closed_list) {
   EXPECT_NO_THROW(Reposicionar(buida, 3));
 }
 
-// A clock that goes on one second each time that events are let run.
-class Espera : public Base_Dades {
- protected:
-  void Posar_Rellotge(const Data_Hora& inici) {
-    ara = inici;
-    Fixar_Rellotge([this] { return ara; });
-    pantalla.en_processar_events = [this] {
-      if (++ara.segon < 60) return;
-      ara.segon = 0;
-      if (++ara.minut < 60) return;
-      ara.minut = 0;
-      if (++ara.hora < 24) return;
-      ara.hora = 0;
-      ++ara.dia;
-    };
-  }
-  Data_Hora ara;
-};
-
-TEST_F(Espera, lets_events_run_until_the_seconds_are_over) {
-  Posar_Rellotge({2011, 3, 5, 10, 0, 0});
-  Esperar(3);
-  EXPECT_EQ(pantalla.events, 3);
+TEST_F(Reposicionar_Llista, after_a_requery_the_row_that_was_current_is_current_again) {
+  rs.MoveLast();
+  Requerir_Alla_Mateix(rs);
+  EXPECT_EQ(rs.AbsolutePosition(), 3);
+  Requerir_Alla_Mateix(rs, "SELECT * FROM VENCIMENTS ORDER BY CODI_VEN DESC");
+  EXPECT_EQ(rs.AbsolutePosition(), 3);
+  EXPECT_EQ(rs.Source(), "SELECT * FROM VENCIMENTS ORDER BY CODI_VEN DESC");
 }
 
-TEST_F(Espera, that_crosses_midnight_ends_on_the_next_day) {
-  Posar_Rellotge({2011, 3, 5, 23, 59, 58});
-  Esperar(5);
-  EXPECT_EQ(ara, (Data_Hora{2011, 3, 6, 0, 0, 3}));
+TEST_F(Reposicionar_Llista, after_a_requery_that_finds_fewer_rows_the_last_one_is_current) {
+  rs.MoveLast();
+  sessio.Connexio_Comuna.Execute("DELETE * FROM VENCIMENTS WHERE CODI_VEN = " + Text_SQL(rs["CODI_VEN"].Text()));
+  Requerir_Alla_Mateix(rs);
+  EXPECT_EQ(rs.AbsolutePosition(), 2);
+}
+
+TEST_F(M_Funcions_Comuns, a_wait_is_the_screens_matter_and_one_of_no_seconds_is_none) {
+  Esperar(3);
+  EXPECT_EQ(pantalla.segons_esperats, 3);
+  Esperar(0);
+  Esperar(-1);
+  EXPECT_EQ(pantalla.segons_esperats, 3);
 }
 
 TEST(Crear_Directori, makes_every_folder_of_the_path_and_gives_it_back_closed_by_a_slash) {
@@ -342,8 +335,6 @@ TEST_F(Transaccions, work_inside_the_transaction_of_another_is_repeated_by_that_
   EXPECT_EQ(vegades, 1);
   EXPECT_TRUE(sessio.Transaccio_Oberta());
 }
-
-// ---- Boxes and transactions
 
 class Caixes_I_Transaccions : public Transaccions {
  protected:

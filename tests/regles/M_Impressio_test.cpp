@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "masters/M_Clients.h"
+#include "masters/M_Venciments_Factura.h"
 #include "sales/M_Tipus_Venda.h"
 #include "stock/M_Tipus_Estoc.h"
 #include "tests/regles/Base.h"

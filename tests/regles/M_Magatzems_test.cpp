@@ -26,8 +26,6 @@ class M_Magatzems : public Base_Dades {
   const Caixa_Vista caixa_sense_estoc = {"1001 - Operació fallida. No hi ha prou STOCK!", 16, "Brollador"};
 };
 
-// ---- What a caller prepares
-
 TEST_F(M_Magatzems, the_minimum_is_passed_on_as_a_truth_value) {
   Posar_Article({.codi = "A1", .minim = 10});
   Posar_Article({.codi = "A2", .minim = 0});
@@ -49,8 +47,6 @@ TEST_F(M_Magatzems, a_warehouse_that_does_not_exist_may_not_go_below_zero) {
   EXPECT_FALSE(Stock_Negatiu_Permes(""));
   EXPECT_FALSE(Stock_Negatiu_Permes("9"));
 }
-
-// ---- Balance and journal
 
 TEST_F(M_Magatzems, a_sale_takes_the_units_out_and_writes_its_journal_row) {
   Posar_Article({});
@@ -199,8 +195,6 @@ TEST_F(M_Magatzems, stock_belongs_to_a_company) {
   EXPECT_EQ(Error_De([] { Vendre("A1", 1); }).Numero(), errors::refusat);
 }
 
-// ---- The minimum
-
 class Minim : public M_Magatzems {
  protected:
   const Caixa_Vista avis = {"A1: Article sota mínims.", 16, "Brollador"};
@@ -280,8 +274,6 @@ TEST_F(M_Magatzems, a_shortage_is_undone_before_its_box_is_shown) {
   EXPECT_EQ(Files("SELECT * FROM MARQUES"), 0);
 }
 
-// ---- Transfers
-
 TEST_F(M_Magatzems, a_transfer_moves_two_balances_and_writes_two_journal_rows) {
   Posar_Article({});
   Posar_Estoc("A1", "1", 5);
@@ -321,8 +313,6 @@ TEST_F(M_Magatzems, a_transfer_never_warns_of_the_minimum) {
   Moviment_Traspas(+1, "A1", true, "2", "1", 5, 9);
   EXPECT_TRUE(pantalla.caixes.empty());
 }
-
-// ---- Two terminals
 
 class Dos_Terminals : public M_Magatzems {
  protected:

@@ -293,8 +293,6 @@ TEST_F(M_Mestres, the_current_company_goes_when_it_has_only_masters) {
   EXPECT_FALSE(Empresa_Existeix(empresa_prova));
 }
 
-// ---- New rows
-
 TEST_F(M_Mestres, a_new_supplier_pays_vat_and_is_named_after_its_code) {
   EXPECT_EQ(Nou_Proveidor(), "0000000001");
   EXPECT_EQ(Dades_Proveidor("0000000001"),

@@ -39,8 +39,6 @@ class M_Usuaris : public Base_Dades {
   }
 };
 
-// ---- Login
-
 TEST_F(M_Usuaris, a_good_login_fills_the_session) {
   Posar_Usuari("'Clau'", "S", empresa_prova, 1);
   sessio.Empresa_Actual.clear();
@@ -105,8 +103,6 @@ TEST_F(M_Usuaris, who_chooses_no_company_is_told_and_works_without_one) {
   EXPECT_EQ(sessio.Nom_Empresa, "-");
   EXPECT_EQ(Text("SELECT EMPRESA_USU FROM USUARIS WHERE CODI_USU = 'ANNA'"), "-");
 }
-
-// ---- Menu
 
 TEST_F(M_Usuaris, before_a_login_only_the_masters_and_the_exit_work) {
   Habilitar_Menus(false);
@@ -240,10 +236,6 @@ TEST_F(M_Usuaris, an_unknown_language_leaves_the_menu_bar_empty) {
   EXPECT_EQ(pantalla.menus_textos["M_CanviUsuari"], "");
   EXPECT_EQ(pantalla.menus_textos["M_Sel_Empresa"], "");
 }
-
-// ---- Codes
-
-// ---- The users themselves
 
 TEST_F(M_Usuaris, a_new_user_is_active_without_password_or_access_in_the_language_of_the_session) {
   sessio.Idioma_Actual = 2;

@@ -123,8 +123,6 @@ std::vector<std::string> Estructura(Connexio& connexio, bool servidor) {
 
 }  // namespace
 
-// ---- The shared database
-
 class Comuna_Vella : public testing::Test {
  protected:
   Carpeta_Temporal temporal;
@@ -264,8 +262,6 @@ TEST(Versions, functions_that_live_on_a_server_change_with_a_step) {
   EXPECT_EQ(empremta, de_la_versio) << "a database that stands gets them with a new file of schema/upgrades (which may "
                                        "hold a comment alone); the new number goes here";
 }
-
-// ---- The start
 
 class Inici_Amb_Versions : public testing::Test {
  protected:

@@ -36,6 +36,7 @@ class Pantalla_Muda : public Pantalla {
   bool Formulari_Carregat(std::string_view) const override { return false; }
   Document_Obert* Document(std::string_view) override { return nullptr; }
   void Processar_Events() override {}
+  void Esperar(std::int32_t) override {}
   void Bloquejar_Entrada() override {}
   void Alliberar_Entrada() override {}
   std::string Obrir_Tria_Empresa(const std::string&, int) override { return {}; }
