@@ -168,10 +168,28 @@ void Exigir_Document(const Tipus_Document& tipus, const Valor& numero, const std
   throw error;
 }
 
+namespace {
+
+std::string SQL_Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  return "SELECT COUNT(*) AS CUENTA FROM " + std::string(tipus.lin.nom) +
+         Condicio_Document(tipus, tipus.lin, numero, empresa);
+}
+
+}  // namespace
+
 std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
-  return Llegir_Valor("SELECT COUNT(*) AS CUENTA FROM " + std::string(tipus.lin.nom) +
-                      Condicio_Document(tipus, tipus.lin, numero, empresa))
-      .Enter();
+  return Llegir_Valor(SQL_Comptar_Linies(tipus, numero, empresa)).Enter();
+}
+
+Estat_Document Llegir_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  Transaccio lectures(sessio.Connexio_Comuna);
+  sessio.Connexio_Comuna.Demanar(SQL_Comptar_Linies(tipus, numero, empresa));
+  const auto bloquejat = Passos_De(tipus).bloquejat;
+  Estat_Document estat;
+  estat.bloquejat = bloquejat != nullptr && bloquejat(numero, empresa);
+  estat.te_linies = Comptar_Linies(tipus, numero, empresa) > 0;
+  lectures.Confirmar();
+  return estat;
 }
 
 bool Hi_Ha_Descomptes(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {

@@ -151,6 +151,12 @@ void Demanar_Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, con
 void Exigir_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 bool Existeix_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+// What its lines keep the head from, read together as the database has it now: another terminal may have added some.
+struct Estat_Document {
+  bool te_linies = false;
+  bool bloquejat = false;  // the customer cannot change any more
+};
+Estat_Document Llegir_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 bool Hi_Ha_Descomptes(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 // Asks, in the words of the kind, and deletes the whole paper, or tells why it stays.
 void Demanar_Esborrar_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);

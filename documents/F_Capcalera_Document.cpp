@@ -112,10 +112,20 @@ void Capcalera_Document::Marcar(const char* paper, bool marcada) {
   if (casella == nullptr) return;
   Recordar_Abans();
   casella->setChecked(marcada);
+  Posat_Per_Una_Regla(casella);
 }
 
 void Capcalera_Document::Posar_Import(double euros) {
-  if (auto* total = qobject_cast<Camp_Numeric*>(Control(QStringLiteral("TXT_IMPORT")))) total->Numero(euros);
+  auto* total = qobject_cast<Camp_Numeric*>(Control(QStringLiteral("TXT_IMPORT")));
+  if (total == nullptr) return;
+  total->Numero(euros);
+  Posat_Per_Una_Regla(total);
+}
+
+void Capcalera_Document::Posat_Per_Una_Regla(const QWidget* control) {
+  for (Lligam& camp : camps_) {
+    if (camp.Control() == control) camp.Posat_Per_Una_Regla();
+  }
 }
 
 double Capcalera_Document::Import() const {
@@ -125,7 +135,7 @@ double Capcalera_Document::Import() const {
 
 bool Capcalera_Document::Te_Canvis() const {
   return camp_numero_->text().toStdString() != numero_.Text() || Qui_Ha_Canviat() ||
-         std::ranges::any_of(camps_, &Lligam::Canviat);
+         std::ranges::any_of(camps_, &Lligam::Canviat_Per_L_Usuari);
 }
 
 Capcalera_Oberta Capcalera_Document::Oberta() const {

@@ -43,7 +43,7 @@ class Capcalera_Document {
   // Writes what changed, and the number when it is another one. After 80040E38 the fields that nobody touched show the
   // row as it stands now, and what was typed stays, to be saved the next time.
   void Desar(const Valor& numero);
-  // Something that was typed or chosen waits to be saved.
+  // Something that the user typed or chose waits to be saved. What a rule put there (the total) does not count.
   bool Te_Canvis() const;
   // Gives up what is pending. What was saved in a transaction that is undone is to be saved again, and what rules put
   // there meanwhile is as it was.
@@ -73,6 +73,7 @@ class Capcalera_Document {
   void Mostrar();
   Qui Qui_De_La_Fila() const;
   bool Qui_Ha_Canviat() const;
+  void Posat_Per_Una_Regla(const QWidget* control);
   void Posar_Canvis(const Valor& numero);
   void Recuperar();
   void Recordar_Abans();

@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QPushButton>
 #include <QShortcut>
 #include <algorithm>
@@ -162,12 +161,6 @@ bool Editor_Document::Tancat() const {
   return tancat == nullptr ? cap_->Esta_Marcada("ESTAT") : tancat(Numero(), sessio.Empresa_Actual);
 }
 
-bool Editor_Document::Bloquejat() const {
-  if (bloquejat_) return *bloquejat_;
-  const auto bloquejat = Passos_De(Tipus()).bloquejat;
-  return bloquejat != nullptr && bloquejat(Numero(), sessio.Empresa_Actual);
-}
-
 // The head holds what a line needs: whom it is for, where from and where to.
 bool Editor_Document::Pot_Entrar() const {
   return std::ranges::all_of(descripcio_.demanats,
@@ -178,14 +171,14 @@ bool Editor_Document::Pot_Entrar() const {
 void Editor_Document::Aplicar_Estat() {
   Formulari::Aplicar_Drets();
   if (!linies_.State()) return;
-  const bool te_linies = linies_.RecordCount() > 0;
-  const bool cap_obert = !te_linies && Dret() == "M";
+  estat_ = llegit_ ? *llegit_ : Llegir_Estat(Tipus(), Numero(), sessio.Empresa_Actual);
+  const bool cap_obert = !estat_.te_linies && Dret() == "M";
   const auto treure = [](QWidget* control, bool obert) {
     if (control != nullptr && !obert) control->setEnabled(false);
   };
   for (const char* nom : descripcio_.fixats) treure(cap_->Control(QString::fromUtf8(nom)), cap_obert);
   if (descripcio_.qui != nullptr) {
-    treure(Boto(descripcio_.qui->boto), te_linies ? Dret() != "C" && !Bloquejat() : cap_obert);
+    treure(Boto(descripcio_.qui->boto), estat_.te_linies ? Dret() != "C" && !estat_.bloquejat : cap_obert);
   }
   const bool tancat = Tancat();
   for (const char* nom : {"B_AMUNT", "B_AVALL"}) {
@@ -223,7 +216,7 @@ QString Editor_Document::Per_Que_No(const QWidget& /*control*/) const {
   if (Tancat()) {
     return paraules("El document està tancat", "El documento está cerrado", "The document is closed");
   }
-  if (linies_.State() && linies_.RecordCount() > 0) {
+  if (estat_.te_linies) {
     return paraules("El document ja té línies", "El documento ya tiene líneas", "The document has lines already");
   }
   return {};

@@ -82,7 +82,6 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Drecera(const char* boto, Qt::Key tecla);
   void Obrir_Recordsets();
   bool Tancat() const;
-  bool Bloquejat() const;
   bool Pot_Entrar() const;
   void Aplicar_Estat();
   void Aplicar_Opcio();
@@ -102,7 +101,8 @@ class Editor_Document : public Formulari, public Document_Obert {
 
   const Descripcio_Editor& descripcio_;
   std::unique_ptr<Capcalera_Document> cap_;
-  std::optional<bool> bloquejat_;  // as it was read with the line that has just been saved
+  Estat_Document estat_;
+  std::optional<Estat_Document> llegit_;  // with the line that has just been saved
   Recordset linies_;
   Recordset peu_;
   std::unique_ptr<Entrada_Linia> entrada_;

@@ -23,7 +23,8 @@ bool Editor_Document::Desar_Linia() {
               [this] {
                 entrada_->Refer_PVP();
                 Afegir_Linia(Tipus(), cap_->Oberta(), entrada_->Linia(), linies_, *this);
-                bloquejat_ = Bloquejat();
+                const auto bloquejat = Passos_De(Tipus()).bloquejat;
+                llegit_ = {true, bloquejat != nullptr && bloquejat(Numero(), sessio.Empresa_Actual)};
               },
               [this] {
                 cap_->Cancellar();
@@ -35,11 +36,11 @@ bool Editor_Document::Desar_Linia() {
         }
         graella_linies_->Mostrar_Fila_Afegida();
         Aplicar_Estat();
-        bloquejat_.reset();
+        llegit_.reset();
         Alliberar_Entrada();
       },
       [this] {
-        bloquejat_.reset();
+        llegit_.reset();
         Cancellar_Edicions();
       });
   return !passatger;

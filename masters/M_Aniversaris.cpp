@@ -36,5 +36,6 @@ bool Toca_Avisar_Aniversaris() {
 
 std::string SQL_Aniversaris(const std::string& text) {
   return Sentencia_Aniversaris(sessio.Dies_Avis_Aniversaris) +
-         (text.empty() ? std::string() : " AND " + Condicio_Nom_Client(text)) + " ORDER BY DAY(NAIXEMENT_CLID), RAO_SOCIAL_CLI";
+         (text.empty() ? std::string() : " AND " + Condicio_Nom_Client(text)) +
+         " ORDER BY DAY(NAIXEMENT_CLID), RAO_SOCIAL_CLI";
 }

@@ -5,8 +5,8 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
 #include "masters/M_Clients.h"
-#include "masters/M_Venciments_Factura.h"
 #include "masters/M_Proveidors.h"
+#include "masters/M_Venciments_Factura.h"
 #include "session/M_Empresa.h"
 
 namespace {

@@ -125,7 +125,7 @@ std::string Valor_O_Pregunta(const Ordre_Installacio& ordre, const char* opcio, 
 // Everybody on the machine may read the words of a running command.
 std::string Adreca_Donada(const Ordre_Installacio& ordre) {
   if (ordre.Te("--shared-file")) return Llegir_De(ordre.Valor_De("--shared-file"));
-  const std::string adreca = ordre.Valor_De("--shared");
+  std::string adreca = ordre.Valor_De("--shared");
   if (Te_Contrasenya(adreca)) {
     Refusar(
         "a password does not go into the command line: put it into ~/.pgpass, or the address into a file "

@@ -1,6 +1,8 @@
 #include "shell/Menu_Principal.h"
 
 #include <QMdiSubWindow>
+#include <algorithm>
+#include <array>
 #include <vector>
 
 #include "core/M_Funcions_Comuns.h"
@@ -105,10 +107,11 @@ const Entrada_Menu entrades[] = {
     {u"M_COPIA", nullptr, u"&Còpia"},
 };
 
-// What opens a form, or works on the one in front, waits for a field that refuses what it holds. Closing leaves the
-// field by itself, and a language is no form's.
+// What closes forms leaves their fields by itself. Every other entry leaves the field of the form in front first, and
+// waits for one that refuses what it holds.
 bool Espera_El_Camp(const Entrada_Menu& entrada) {
-  return entrada.formulari != nullptr || entrada.accio == Imprimir_Del_Davant || entrada.accio == Cercar_Al_Davant;
+  constexpr std::array tanquen = {Tancar_Del_Davant, Acabar_Aplicacio, Canviar_Usuari, Canviar_Empresa};
+  return std::ranges::find(tanquen, entrada.accio) == tanquen.end();
 }
 
 QString Paraules(const char* catala, const char* castella, const char* angles) {
@@ -135,7 +138,8 @@ bool Te_Feina(const Entrada_Menu& entrada) {
 }
 
 void Fer(const Entrada_Menu& entrada) {
-  if (Espera_El_Camp(entrada) && !Deixar_El_Camp_De(F_Principal::Unica()->Del_Davant())) return;
+  if (Espera_El_Camp(entrada) && !Deixar_El_Camp_De(F_Principal::Unica()->Del_Davant()))
+    return Actualitzar_Menu_Sessio();  // the click has ticked a language
   if (entrada.accio == nullptr) return Obrir(QString::fromUtf16(entrada.formulari));
   Formulari::Guardar_Event(entrada.accio);
 }

@@ -77,11 +77,11 @@ Article_Estoc Preparar_Article_Estoc(const std::string& codi, double canvi) {
   const auto dades = Dades_Article(codi);
   const std::string& magatzem = dades[article::magatzem];
   const bool porta_stock = Text_Cert(dades[article::porta_stock]);
-  const Article_Estoc article = {.article = codi,
-                                 .magatzem = magatzem,
-                                 .minim = Text_Cert(dades[article::stock_minim]) ? -1.0 : 0.0,
-                                 .stock_neg = porta_stock && Stock_Negatiu_Permes(magatzem),
-                                 .porta_stock = porta_stock};
+  Article_Estoc article = {.article = codi,
+                           .magatzem = magatzem,
+                           .minim = Text_Cert(dades[article::stock_minim]) ? -1.0 : 0.0,
+                           .stock_neg = porta_stock && Stock_Negatiu_Permes(magatzem),
+                           .porta_stock = porta_stock};
   Avisar_Sota_Minims(article, canvi);
   return article;
 }

@@ -5,11 +5,14 @@
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QPointer>
 #include <QScopeGuard>
 #include <QShortcutEvent>
 #include <QTabBar>
 #include <QTimer>
+#include <QVariant>
+#include <utility>
 
 #include "core/controls/Controls.h"
 #include "core/controls/Refus.h"
@@ -26,6 +29,21 @@ const QWidget* deixat_aqui = nullptr;
 const QAbstractButton* boto_premut = nullptr;
 bool es_tanca = false;
 
+// The field that the key of the exit button has left, and what it held: the button closes the form a moment later.
+struct Deixat_Per_Sortir {
+  QPointer<const QWidget> camp;
+  QVariant contingut;
+};
+Deixat_Per_Sortir deixat_per_sortir;
+
+QVariant Contingut_De(const QWidget* camp) {
+  return camp->metaObject()->userProperty().read(camp);
+}
+
+bool Es_Boto(const QWidget* control, const char16_t* nom) {
+  return control->objectName().compare(QStringView(nom), Qt::CaseInsensitive) == 0;
+}
+
 bool Canvia_De_Finestra(Qt::FocusReason motiu) {
   return motiu == Qt::ActiveWindowFocusReason || motiu == Qt::PopupFocusReason || motiu == Qt::MenuBarFocusReason;
 }
@@ -38,8 +56,7 @@ bool Se_N_Va() {
   const bool de_pas =
       boto_premut == nullptr && (motiu_de_sortir == Qt::TabFocusReason || motiu_de_sortir == Qt::BacktabFocusReason);
   if (cap_on == nullptr || de_pas) return false;
-  const QString nom = cap_on->objectName().toUpper();
-  return nom == u"B_EXIT" || nom == u"B_NETEJAR";
+  return Es_Boto(cap_on, u"B_EXIT") || Es_Boto(cap_on, u"B_NETEJAR");
 }
 
 const Formulari* Formulari_De(const QWidget* camp) {
@@ -172,13 +189,17 @@ bool Deixar_El_Camp_Pel_Boto(const QAbstractButton* boto) {
     const auto acaba = qScopeGuard([] { boto_premut = nullptr; });
     Deixar_Aqui(camp, true);
   }
+  if (viu && Es_Boto(boto, u"B_EXIT") && camp != nullptr) deixat_per_sortir = {camp, Contingut_De(camp)};
   return viu && boto->isEnabled() && !Focus_Retingut();
 }
 
 void Deixar_El_Camp_En_Tancar(const QWidget* formulari) {
   const auto acaba = qScopeGuard([abans = es_tanca] { es_tanca = abans; });
   es_tanca = true;
-  Deixar_Aqui(formulari->focusWidget(), false);
+  const QWidget* camp = formulari->focusWidget();
+  const auto [deixat, contingut] = std::exchange(deixat_per_sortir, {});
+  if (camp != nullptr && camp == deixat && Contingut_De(camp) == contingut) return;
+  Deixar_Aqui(camp, false);
 }
 
 void Posar_Focus(QWidget* camp) {

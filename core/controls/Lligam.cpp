@@ -44,7 +44,7 @@ void Lligam::Mostrar() {
   } else if (auto* combo = qobject_cast<Combo_Codi*>(control_)) {
     combo->Posar(valor.Text());
   }
-  mostrat_ = Estat();
+  Recordar();
 }
 
 QString Lligam::Estat() const {
@@ -62,6 +62,15 @@ bool Lligam::Canviat() const {
 
 void Lligam::Recordar() {
   mostrat_ = Estat();
+  de_regla_.reset();
+}
+
+void Lligam::Posat_Per_Una_Regla() {
+  de_regla_ = Estat();
+}
+
+bool Lligam::Canviat_Per_L_Usuari() const {
+  return Canviat() && Estat() != de_regla_;
 }
 
 Valor Lligam::Escrit() const {

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,10 @@ class Lligam {
   bool Canviat() const;
   // What it holds is what the row has now: it was saved.
   void Recordar();
+  // What it holds was put there by a rule, which will see to its being saved.
+  void Posat_Per_Una_Regla();
+  // The user typed or chose what it holds.
+  bool Canviat_Per_L_Usuari() const;
   // Puts what it holds into the pending edit of the row: an empty field is null, an empty number 0. Raises as
   // Llegir_Escrit does.
   void Posar() const;
@@ -44,6 +49,7 @@ class Lligam {
   std::string columna_;
   Tipus_Columna tipus_;
   QString mostrat_;
+  std::optional<QString> de_regla_;
 };
 
 // The controls of a form that are named after a column of the recordset: TXT_, CHK_, DT_ or CMB_ and its name.

@@ -42,6 +42,6 @@ void Aplicar_Drets(const QString& nom);
 // Mostrar_Formulari and Obrir_Formulari under the busy pointer: what a menu entry does.
 void Obrir(const QString& nom);
 
-// The pictures of the pointer.
+// The application's override cursor: the busy clock, and back to what it was before.
 void Punter_Ocupat();
 void Punter_Normal();

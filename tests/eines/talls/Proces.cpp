@@ -70,7 +70,7 @@ std::optional<std::string> Proces::Llegir_Linia(Moment fins) {
   for (;;) {
     const std::size_t final = rebut_.find('\n');
     if (final != std::string::npos) {
-      const std::string linia = rebut_.substr(0, final);
+      std::string linia = rebut_.substr(0, final);
       rebut_.erase(0, final + 1);
       return linia;
     }
