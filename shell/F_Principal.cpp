@@ -74,7 +74,7 @@ F_Principal::F_Principal() : area_(new QMdiArea(this)), estat_(new Barra_Estat(t
   setCentralWidget(area_);
   setStatusBar(estat_);
   Crear_Menu();
-  Accio(QStringLiteral("M_Languages"))->setEnabled(false);
+  F_Principal::Accio(QStringLiteral("M_Languages"))->setEnabled(false);
   connect(area_, &QMdiArea::subWindowActivated, this, &F_Principal::Activada);
   // Whatever the user does may change what the form in front shows: told once, when it has been done.
   quan_toqui_.setSingleShot(true);

@@ -1,5 +1,6 @@
 // The preview: the laid-out pages on the screen, one under the other, as they will be printed.
 #include <QAction>
+#include <QDialog>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
