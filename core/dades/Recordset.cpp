@@ -186,7 +186,7 @@ void Recordset::Interior::Retenir() {
   retinguda = true;
 }
 
-// The edit is over before its row is let go. A hold that cannot be taken back went with the connection that had it.
+// The edit is over before the lock of its row is released. One that cannot be released went with its connection.
 void Recordset::Interior::Acabar_Edicio() noexcept {
   edicio = Edicio::Cap;
   canvis.clear();
