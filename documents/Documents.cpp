@@ -181,9 +181,14 @@ std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, co
   return Llegir_Valor(SQL_Comptar_Linies(tipus, numero, empresa)).Enter();
 }
 
+void Demanar_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  sessio.Connexio_Comuna.Demanar(SQL_Comptar_Linies(tipus, numero, empresa));
+  if (const auto demanar = Passos_De(tipus).demanar_bloquejat) demanar(numero, empresa);
+}
+
 Estat_Document Llegir_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
   Transaccio lectures(sessio.Connexio_Comuna);
-  sessio.Connexio_Comuna.Demanar(SQL_Comptar_Linies(tipus, numero, empresa));
+  Demanar_Estat(tipus, numero, empresa);
   const auto bloquejat = Passos_De(tipus).bloquejat;
   Estat_Document estat;
   estat.bloquejat = bloquejat != nullptr && bloquejat(numero, empresa);

@@ -156,6 +156,8 @@ struct Estat_Document {
   bool te_linies = false;
   bool bloquejat = false;  // the customer cannot change any more
 };
+// Both will be asked in this transaction (Connexio::Demanar).
+void Demanar_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 Estat_Document Llegir_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 bool Hi_Ha_Descomptes(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 // Asks, in the words of the kind, and deletes the whole paper, or tells why it stays.

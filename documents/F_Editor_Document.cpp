@@ -122,8 +122,10 @@ void Editor_Document::Carregar() {
     const Noms_Amb_Codi& noms = descripcio_.qui->noms;
     cap_->Combo()->Omplir(noms.sentencia(), connexio, noms.codi, noms.nom);
   }
+  Demanar_Estat(Tipus(), numero, sessio.Empresa_Actual);
   cap_->Obrir(numero);
   Obrir_Recordsets();
+  llegit_ = Llegir_Estat(Tipus(), numero, sessio.Empresa_Actual);
   lectures.Confirmar();
   nova_->hide();  // until what the option asks for is there
   entrada_->Netejar();
@@ -154,6 +156,7 @@ void Editor_Document::Activar() {
   }
   if (!Pot_Entrar()) nova_->hide();
   Aplicar_Estat();
+  llegit_.reset();
 }
 
 bool Editor_Document::Tancat() const {

@@ -102,7 +102,7 @@ class Editor_Document : public Formulari, public Document_Obert {
   const Descripcio_Editor& descripcio_;
   std::unique_ptr<Capcalera_Document> cap_;
   Estat_Document estat_;
-  std::optional<Estat_Document> llegit_;  // with the line that has just been saved
+  std::optional<Estat_Document> llegit_;  // just now, with the document or with the line that has been saved
   Recordset linies_;
   Recordset peu_;
   std::unique_ptr<Entrada_Linia> entrada_;

@@ -1,12 +1,11 @@
 #include "shell/Menu_Principal.h"
 
 #include <QMdiSubWindow>
-#include <algorithm>
-#include <array>
 #include <vector>
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Focus_Camps.h"
+#include "core/controls/Refus.h"
 #include "core/formularis/Formulari.h"
 #include "core/formularis/Formularis_Oberts.h"
 #include "session/Canvi_Idioma.h"
@@ -43,9 +42,18 @@ void Cercar_Al_Davant() {
   Obrir_Cerca(F_Principal::Unica()->Del_Davant());
 }
 
+// A language is no form's: the field in front is left first, and one that refuses what it holds keeps nobody from the
+// change. What has been refused already is not refused again.
+void Deixar_El_Camp_Sense_Esperar() {
+  const Formulari* davant = F_Principal::Unica()->Del_Davant();
+  const QWidget* camp = davant == nullptr ? nullptr : davant->focusWidget();
+  if (camp != nullptr && Refus_De(camp).isEmpty()) Deixar_El_Camp_De(davant);
+}
+
 // The click has ticked its entry already: whatever becomes of the change, the ticks tell the language of the session.
 template <std::int16_t idioma>
 void Parlar() {
+  Deixar_El_Camp_Sense_Esperar();
   try {
     Canviar_Idioma(idioma);
   } catch (...) {
@@ -107,11 +115,10 @@ const Entrada_Menu entrades[] = {
     {u"M_COPIA", nullptr, u"&Còpia"},
 };
 
-// What closes forms leaves their fields by itself. Every other entry leaves the field of the form in front first, and
-// waits for one that refuses what it holds.
+// What opens a form, or works on the one in front, waits for a field that refuses what it holds. Closing leaves the
+// field by itself.
 bool Espera_El_Camp(const Entrada_Menu& entrada) {
-  constexpr std::array tanquen = {Tancar_Del_Davant, Acabar_Aplicacio, Canviar_Usuari, Canviar_Empresa};
-  return std::ranges::find(tanquen, entrada.accio) == tanquen.end();
+  return entrada.formulari != nullptr || entrada.accio == Imprimir_Del_Davant || entrada.accio == Cercar_Al_Davant;
 }
 
 QString Paraules(const char* catala, const char* castella, const char* angles) {
@@ -138,8 +145,7 @@ bool Te_Feina(const Entrada_Menu& entrada) {
 }
 
 void Fer(const Entrada_Menu& entrada) {
-  if (Espera_El_Camp(entrada) && !Deixar_El_Camp_De(F_Principal::Unica()->Del_Davant()))
-    return Actualitzar_Menu_Sessio();  // the click has ticked a language
+  if (Espera_El_Camp(entrada) && !Deixar_El_Camp_De(F_Principal::Unica()->Del_Davant())) return;
   if (entrada.accio == nullptr) return Obrir(QString::fromUtf16(entrada.formulari));
   Formulari::Guardar_Event(entrada.accio);
 }

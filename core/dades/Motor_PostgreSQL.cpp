@@ -63,7 +63,9 @@ class Motor_PostgreSQL final : public Motor {
   }
 
   void Demanar(const std::string& sql, const std::vector<Valor>& parametres) override {
-    if (marcada_) demanades_.push_back({sql, parametres, nullptr});
+    const bool ja_hi_es = std::any_of(demanades_.begin(), demanades_.end(),
+                                      [&](const Demanada& demanada) { return demanada.Es(sql, parametres); });
+    if (marcada_ && !ja_hi_es) demanades_.push_back({sql, parametres, nullptr});
   }
 
   void Executar_Despres(const std::string& sql, const std::vector<Valor>& parametres) override {
@@ -141,7 +143,8 @@ class Motor_PostgreSQL final : public Motor {
     const Resultat_PG resultat = Passar("SELECT pg_try_advisory_lock($1)", {Empremta_Fila(taula, clau)});
     return PQgetvalue(resultat.get(), 0, 0)[0] == 't';
   }
-  // Inside a transaction a row is let go behind its end. The server has dropped the holds of a connection that is gone.
+  // Inside a transaction the lock of a row is released after the commit or the rollback. The server has released those
+  // of a connection that is gone.
   void Deixar_Anar(const std::string& taula, const Valor& clau) override {
     if (!enllac_.Es_Viu()) return;
     per_deixar_.push_back(Empremta_Fila(taula, clau));
@@ -169,7 +172,7 @@ class Motor_PostgreSQL final : public Motor {
     }
   }
 
-  // Never raises: what cannot be let go went with its connection.
+  // Never raises: a lock that cannot be released went with its connection.
   void Deixar_Pendents() {
     if (per_deixar_.empty()) return;
     try {
@@ -214,9 +217,8 @@ class Motor_PostgreSQL final : public Motor {
 
   // The answer of a read that was asked for; it serves once.
   Resultat_PG Ja_Demanada(const std::string& sql, const std::vector<Valor>& parametres) {
-    const auto it = std::find_if(demanades_.begin(), demanades_.end(), [&](const Demanada& demanada) {
-      return demanada.sql == sql && demanada.parametres == parametres;
-    });
+    const auto it = std::find_if(demanades_.begin(), demanades_.end(),
+                                 [&](const Demanada& demanada) { return demanada.Es(sql, parametres); });
     if (it == demanades_.end()) return nullptr;
     Resultat_PG resposta = std::move(it->resposta);
     demanades_.erase(it);
@@ -326,13 +328,16 @@ class Motor_PostgreSQL final : public Motor {
     std::string sql;
     std::vector<Valor> parametres;
     Resultat_PG resposta;
+    bool Es(const std::string& altra_sql, const std::vector<Valor>& altres) const {
+      return sql == altra_sql && parametres == altres;
+    }
   };
 
   Enllac_PostgreSQL enllac_;
   std::vector<Demanada> demanades_;
   Cataleg taules_;
   std::map<std::pair<Oid, int>, std::pair<std::string, std::string>> noms_columnes_;
-  std::vector<std::int64_t> per_deixar_;  // rows held, to be let go when the transaction ends
+  std::vector<std::int64_t> per_deixar_;  // locks of rows, to be released when the transaction ends
   std::int64_t numero_ = 0;
   bool marcada_ = false;    // BeginTrans was called
   bool comencada_ = false;  // the server's transaction runs, or is in the queue

@@ -175,6 +175,28 @@ TEST_F(Camps_En_Tancar, Closing_a_form_leaves_its_field_and_nobody_is_kept) {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+TEST_F(Camps_En_Tancar, The_key_of_the_exit_button_leaves_the_field_once_and_again_when_it_was_typed_in_meanwhile) {
+  int vegades = 0;
+  auto* formulari = new Formulari(QStringLiteral("F_Prova"));
+  auto* camp = new QLineEdit(formulari);
+  auto* sortir = new QPushButton(QStringLiteral("&Sortir"), formulari);
+  sortir->setObjectName(QStringLiteral("B_Exit"));
+  En_Sortir(camp, [&] { ++vegades; });
+  formulari->show();
+  QApplication::setActiveWindow(formulari);
+  camp->setFocus();
+  ASSERT_TRUE(Deixar_El_Camp_Pel_Boto(sortir));
+  EXPECT_EQ(vegades, 1);
+  QTest::keyClicks(camp, QStringLiteral("x"));
+  Deixar_El_Camp_En_Tancar(formulari);
+  EXPECT_EQ(vegades, 2);
+  ASSERT_TRUE(Deixar_El_Camp_Pel_Boto(sortir));
+  EXPECT_EQ(vegades, 3);
+  formulari->close();
+  EXPECT_EQ(vegades, 3);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 TEST(Focus_Camps, Refusing_a_thousand_times_makes_no_connection_more) {
   QWidget finestra;
   QLineEdit camp(&finestra);
