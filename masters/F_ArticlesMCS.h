@@ -3,25 +3,22 @@
 
 #include <memory>
 
-#include "core/menes/Llista.h"
+#include "core/menes/Llista_Filtrada.h"
 
 namespace Ui {
 class F_ArticlesMCS;
 }
 
-class F_ArticlesMCS : public Llista {
+class F_ArticlesMCS : public Llista_Filtrada {
   Q_OBJECT
  public:
   F_ArticlesMCS();
   ~F_ArticlesMCS() override;
-  void Carregar() override;
 
  protected:
   std::string Sentencia() const override;
   void Obrir_Fila() override;
 
  private:
-  void Filtrar();
-  bool filtrada_ = false;
   std::unique_ptr<Ui::F_ArticlesMCS> ui_;
 };

@@ -6,6 +6,7 @@
 #include "documents/F_Editor_Document.h"
 #include "documents/F_Llista_Documents.h"
 #include "output/Imprimir.h"
+#include "sales/F_ComandesMCS.h"
 #include "sales/M_Consultes_Venda.h"
 #include "sales/M_Tipus_Venda.h"
 #include "ui_F_Comanda.h"
@@ -63,5 +64,6 @@ void Registrar_Formularis_Comanda() {
   Registrar_Formulari(QStringLiteral("F_COMANDESS"), Fabrica_De<Cerca_Document, Ui::F_ComandesS>(Cerca()));
   Registrar_Formulari(QStringLiteral("F_COMANDESM"),
                       Fabrica_De<Llista_Documents, Ui::F_ComandesM>(Llista_De_Comandes()));
+  Registrar_Formulari(QStringLiteral("F_COMANDESMCS"), [] { return new F_ComandesMCS; });
   Registrar_Formulari(QStringLiteral("F_COMANDA"), Fabrica_De<Editor_Document, Ui::F_Comanda>(Editor()));
 }

@@ -1,4 +1,4 @@
-// The screens of orders: search, list and editor.
+// The screens of orders: search, list, editor, and the picking of what is pending.
 #pragma once
 
 void Registrar_Formularis_Comanda();

@@ -5,6 +5,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "documents/M_Linies_Document.h"
 #include "payments/M_Flags.h"
+#include "payments/M_Pagaments.h"
 #include "sales/M_Pressupostos.h"
 #include "sales/M_Tipus_Venda.h"
 #include "stock/M_Magatzems.h"
@@ -132,4 +133,30 @@ void Actualitzar_Estat_Comanda(std::int64_t numero, const std::string& empresa) 
 void Posar_Estat_Comanda(std::int64_t numero, const std::string& empresa, bool estat) {
   sessio.Connexio_Comuna.Execute("UPDATE COMANDACAP SET ESTAT_CC = " + Valor_SQL(estat) +
                                  Condicio_Document(tipus_comanda, tipus_comanda.cap, numero, empresa));
+}
+
+std::string SQL_Comandes_Pendents(const std::string& client, const std::string& article,
+                                  const std::string& descripcio) {
+  const auto conte = [](const char* columna, const std::string& text) {
+    return text.empty() || text == "%" ? std::string()
+                                       : " AND " + std::string(columna) + " LIKE " + Text_SQL('%' + text + '%');
+  };
+  return "SELECT NUMALB_CC, DATA_CC, CLIENT_DESC_CC, LIN_CL, ARTICLE_CL, DESCRIPCIO_CL, COST_CL,(UNITATS_CL - "
+         "SERVIDES_CL) AS PENDENTS, PORC_MARGE_CL, PREU_UNITARI_CL, PORC_IVA_CL, PVP_CL, DTE_CL FROM COMANDACAP INNER "
+         "JOIN COMANDALIN ON (COMANDACAP.EMPRESA_CC = COMANDALIN.EMPRESA_CL) AND (COMANDACAP.NUMALB_CC = "
+         "COMANDALIN.NUMALB_CL) WHERE EMPRESA_CC = " +
+         Text_SQL(sessio.Empresa_Actual) + " AND CLIENT_CC = " + Text_SQL(client) +
+         " AND (UNITATS_CL - SERVIDES_CL) > 0" + conte("ARTICLE_CL", article) + conte("DESCRIPCIO_CL", descripcio) +
+         " AND ESTAT_CC = 0 ORDER BY DATA_CC";
+}
+
+const char* Per_Que_No_Es_Pot_Servir(std::int64_t comanda, std::int64_t albara) {
+  const bool flag_comanda = Flag_Pagament("P", comanda);
+  const bool flag_albara = Flag_Pagament("A", albara);
+  if (flag_comanda && flag_albara) {
+    return Tenir_Pagaments("P", comanda) ? "Aquesta comanda no es pot servir en aquest albarà, té pagaments!" : nullptr;
+  }
+  const bool cap_dels_dos = !flag_comanda && !flag_albara;
+  if (!cap_dels_dos || Comptar_Linies(tipus_albara, albara, sessio.Empresa_Actual) == 0) return nullptr;
+  return "Aquesta comanda no es pot servir en aquest albarà, no té pagaments!";
 }

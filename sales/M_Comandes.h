@@ -35,3 +35,9 @@ void Servir_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::
 // table is not written.
 void Actualitzar_Estat_Comanda(std::int64_t numero, const std::string& empresa);
 void Posar_Estat_Comanda(std::int64_t numero, const std::string& empresa, bool estat);
+
+// The lines of the customer's open orders that have units pending, the oldest order first. `article` and `descripcio`
+// are parts of what is looked for; empty or "%": any.
+std::string SQL_Comandes_Pendents(const std::string& client, const std::string& article, const std::string& descripcio);
+// Why the order may not be served on that delivery note (payments stand at one level of a chain); null when it may.
+const char* Per_Que_No_Es_Pot_Servir(std::int64_t comanda, std::int64_t albara);

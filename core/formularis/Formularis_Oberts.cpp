@@ -140,12 +140,12 @@ QMdiSubWindow* El_Seguent(const QMdiSubWindow* tancada, const std::vector<Formul
   return es_pare ? abans : Subfinestra(pares.front());
 }
 
-// A list that was closed without a choice leaves the user in the field that asked.
+// A list that was closed without a choice leaves the user in the field that asked. Where no field did, the form knows
+// where its users go on.
 void Tornar_Al_Camp(const Crida& crida) {
   const Formulari* formulari = Formulari_De_Nom(QString::fromUtf16(crida.formulari));
-  QWidget* camp = formulari == nullptr || crida.destins.empty()
-                      ? nullptr
-                      : formulari->Cercar_Control(QString::fromUtf16(crida.destins.front().control));
+  if (formulari == nullptr || crida.destins.empty() || crida.mena == Mena_Crida::Directa) return;
+  QWidget* camp = formulari->Cercar_Control(QString::fromUtf16(crida.destins.front().control));
   if (camp != nullptr) Posar_Focus(camp);
 }
 

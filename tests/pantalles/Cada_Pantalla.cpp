@@ -25,6 +25,7 @@ constexpr char albarans_s[] = "F_ALBARANSS";
 constexpr char albarans_m[] = "F_ALBARANSM";
 constexpr char comandes_s[] = "F_COMANDESS";
 constexpr char comandes_m[] = "F_COMANDESM";
+constexpr char comandes_mcs[] = "F_COMANDESMCS";
 constexpr char usuaris_m[] = "F_USUARISM";
 constexpr char clients_m[] = "F_CLIENTSM";
 constexpr char proveidors_m[] = "F_PROVEIDORSM";
@@ -99,6 +100,7 @@ const Cami camins[] = {
      false},
     {comandes_s, Obrir_Sol<comandes_s>, true},
     {comandes_m, Obrir_Sol<comandes_m>, false},
+    {comandes_mcs, Obrir_Sol<comandes_mcs>, true},
     {"F_COMANDA",
      [] {
        Obrir(QStringLiteral("F_COMANDESM"));

@@ -149,3 +149,54 @@ TEST_F(Linies_De_Comanda, a_pending_one_goes_and_frees_the_line_of_the_proposal_
   EXPECT_EQ(Files("SELECT * FROM PRESSUPOSTLIN WHERE COMANDA_PL = 0 AND COMANDA_LIN_PL = 0 AND ESTAT_PL = 0"), 1);
   EXPECT_EQ(Files("SELECT * FROM PRESSUPOSTCAP WHERE ESTAT_PC = 0"), 1);
 }
+
+// What may be served on which note, by the payment flags of both, the order's payments and the note's lines.
+TEST_F(M_Comandes, an_order_goes_on_a_note_where_its_payments_can_follow) {
+  const std::string te = "Aquesta comanda no es pot servir en aquest albarà, té pagaments!";
+  const std::string no_te = "Aquesta comanda no es pot servir en aquest albarà, no té pagaments!";
+  Posar_Albara(7);
+  const auto refus = [](bool comanda, bool albara, bool linies) {
+    Executar("UPDATE COMANDACAP SET PAGAMENT_CC = " + Valor_SQL(comanda));
+    Executar("UPDATE ALBARACAP SET PAGAMENT_AC = " + Valor_SQL(albara));
+    Executar("DELETE * FROM ALBARALIN");
+    if (linies) Posar_Linia_Albara(7, 1, 21, 10, 12.1);
+    const char* text = Per_Que_No_Es_Pot_Servir(3, 7);
+    return std::string(text == nullptr ? "" : text);
+  };
+  for (const bool linies : {false, true}) {
+    EXPECT_EQ(refus(true, false, linies), "");
+    EXPECT_EQ(refus(false, true, linies), "");
+    EXPECT_EQ(refus(true, true, linies), "");
+    EXPECT_EQ(refus(false, false, linies), linies ? no_te : "");
+  }
+  Executar("INSERT INTO PAGAMENTS (DOCUMENT_PAG, NUMALB_PAG, EMPRESA_PAG) VALUES('P', 3, '" + empresa_prova + "')");
+  for (const bool linies : {false, true}) {
+    EXPECT_EQ(refus(true, true, linies), te);
+    EXPECT_EQ(refus(true, false, linies), "");
+  }
+}
+
+TEST_F(M_Comandes, the_pending_lines_of_a_customer_are_those_of_open_orders_the_oldest_first) {
+  const auto files = [](const std::string& article, const std::string& descripcio) {
+    std::string text;
+    for (Recordset rs(SQL_Comandes_Pendents("C1", article, descripcio), sessio.Connexio_Comuna); !rs.Eof();
+         rs.MoveNext())
+      text += rs["NUMALB_CC"].Text() + "." + rs["LIN_CL"].Text() + ":" + rs["PENDENTS"].Text() + " ";
+    return text;
+  };
+  for (const std::int64_t numero : {4, 5, 6}) Posar_Comanda(numero);
+  Posar_Linia_Comanda(3, 2, 5, 5);
+  Posar_Linia_Comanda(3, 3, 5, 6);
+  Posar_Linia_Comanda(4, 1, 2, 0.5);
+  Posar_Linia_Comanda(5, 1, 1);
+  Posar_Linia_Comanda(6, 1, 1);
+  Executar("UPDATE COMANDACAP SET CLIENT_CC = 'C1', ESTAT_CC = 0, DATA_CC = #3/10/2011#");
+  Executar("UPDATE COMANDACAP SET DATA_CC = #3/1/2011# WHERE NUMALB_CC = 4");
+  Executar("UPDATE COMANDACAP SET ESTAT_CC = -1 WHERE NUMALB_CC = 5");
+  Executar("UPDATE COMANDACAP SET CLIENT_CC = 'C2' WHERE NUMALB_CC = 6");
+  Executar("UPDATE COMANDALIN SET DESCRIPCIO_CL = 'Clau anglesa' WHERE NUMALB_CL = 4");
+  EXPECT_EQ(files("", ""), "4.1:1,5 3.1:10 ");
+  EXPECT_EQ(files("%", "%"), "4.1:1,5 3.1:10 ");
+  EXPECT_EQ(files("A1", "ngl"), "4.1:1,5 ");
+  EXPECT_EQ(files("NULO", "NULO"), "");
+}
