@@ -67,8 +67,6 @@ class Escriptor {
   std::map<Document_Pagable, bool> mostrats_;
 };
 
-// ---- Questions to the documents that are linked with one
-
 using Documents = std::vector<Document_Pagable>;
 using Pregunta_Document = bool (Cadena::*)(const Document_Pagable&) const;
 
@@ -125,8 +123,6 @@ Resposta_Cadena Preguntar_Al_Nivell_Anterior(const Cadena& cadena, const Documen
   if (pagaments == Resposta_Cadena::Totes_No) treure(anteriors);
   return pagaments;
 }
-
-// ---- The walk
 
 class Recorregut {
  public:
