@@ -36,6 +36,7 @@ void Editor_Document::Muntar() {
   graella_linies_ = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella_linies));
   graella_linies_->Permetre_Ordre(false);  // the order of lines is the document's
   graella_linies_->Columnes(Columnes_De_Linies(Tipus(), descripcio_.columnes_linies));
+  if (descripcio_.linia_ok != nullptr) graella_linies_->Files_OK(Tipus().lin.Columna(descripcio_.linia_ok));
   if (descripcio_.graella_peu != nullptr) {
     graella_peu_ = Control_De_Nom<Graella>(QString::fromUtf8(descripcio_.graella_peu));
     graella_peu_->Columnes(Columnes_De_Peu(Tipus()));

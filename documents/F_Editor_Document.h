@@ -30,6 +30,7 @@ struct Descripcio_Editor {
   const char* graella_linies;                        // G_ALBLIN
   const char* graella_peu = nullptr;                 // G_ALBPEU
   std::vector<Columna_Propia> columnes_linies = {};  // what differs from the columns of every kind
+  const char* linia_ok = nullptr;                    // role word: a line where it is set shows as OK
   Descripcio_Entrada entrada;
   // Controls of the head, without their suffix; buttons as they are.
   std::vector<const char*> demanats;             // no line can be typed before these hold something: TXT_CLIENT

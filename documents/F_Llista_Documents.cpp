@@ -18,11 +18,7 @@ void Llista_Documents::Muntar() {
     Dibuixar(Control_De_Nom<QPushButton>(QString::fromUtf16(nom)), Dibuix::Calcular);
     Boto_De_Pantalla(QString::fromUtf16(nom), QString::fromUtf16(formulari));
   }
-  if (descripcio_.columna_ok == nullptr) return;
-  graella->Estil_De_Fila([this](std::int64_t fila) {
-    const Valor estat = rs_.Valor_De_Fila(fila, rs_.Index_Camp(descripcio_.columna_ok));
-    return !estat.Es_Nul() && estat.Boolea() ? QStringLiteral("OK") : QString();
-  });
+  if (descripcio_.columna_ok != nullptr) graella->Files_OK(descripcio_.columna_ok);
 }
 
 std::string Llista_Documents::Sentencia() const {

@@ -2,8 +2,10 @@
 
 #include "sales/F_Albarans.h"
 #include "sales/F_Comandes.h"
+#include "sales/F_Pressupostos.h"
 
 void Registrar_Formularis_Venda() {
   Registrar_Formularis_Albara();
   Registrar_Formularis_Comanda();
+  Registrar_Formularis_Pressupost();
 }

@@ -1,8 +1,106 @@
 #include "sales/M_Pressupostos.h"
 
-#include "core/Sessio.h"
-#include "documents/Documents.h"
+#include "core/M_Funcions_Comuns.h"
+#include "documents/M_Linies_Document.h"
 #include "sales/M_Tipus_Venda.h"
+
+namespace {
+
+constexpr const char* columna_que_bloqueja = "COMANDA";
+
+void Posar_Estat_Al_Formulari(bool estat) {
+  if (Document_Obert* obert = sessio.pantalla->Document(tipus_pressupost.formulari)) obert->Posar_Estat(estat);
+}
+
+// A proposal with a new line is not accepted any more.
+Apunt_Linia Obrir_Pressupost(const Capcalera_Oberta& /*cap*/, const Linia_Entrada& /*linia*/) {
+  return {.abans = {}, .despres = [] { Posar_Estat_Al_Formulari(false); }};
+}
+
+void Columnes_De_Pressupost(const Capcalera_Oberta& /*cap*/, const Linia_Entrada& /*linia*/, Recordset& fila) {
+  fila.Set("ESTAT_PL", false);
+}
+
+void Refer_Pressupost(const Capcalera_Oberta& cap, Document_Obert& /*obert*/) {
+  Actualitzar_Estat_Pressupost(cap.numero.Enter(), cap.empresa);
+}
+
+bool Bloquejat(const Valor& numero, const std::string& empresa) {
+  return Bloquejat_Per_Linies(tipus_pressupost, numero, empresa, columna_que_bloqueja);
+}
+
+void Demanar_Bloquejat(const Valor& numero, const std::string& empresa) {
+  Demanar_Bloquejat_Per_Linies(tipus_pressupost, numero, empresa, columna_que_bloqueja);
+}
+
+}  // namespace
+
+const Passos_Document passos_pressupost = {.bloquejat = Bloquejat,
+                                           .demanar_bloquejat = Demanar_Bloquejat,
+                                           .apunt = Obrir_Pressupost,
+                                           .columnes = Columnes_De_Pressupost,
+                                           .columna_lligada = "ESTAT",
+                                           .linies_esborrades = Refer_Pressupost};
+
+std::int64_t Crear_Capcalera_Pressupost() {
+  return Crear_Capcalera(tipus_pressupost).Enter();
+}
+
+std::int64_t Seguent_Numero_Pressupost(const std::string& empresa) {
+  return Seguent_Numero(tipus_pressupost, empresa).Enter();
+}
+
+std::int16_t Seguent_Linia_Pressupost(std::int64_t numero, const std::string& empresa) {
+  return Seguent_Linia(tipus_pressupost, numero, empresa);
+}
+
+bool Existeix_Pressupost(std::int64_t numero, const std::string& empresa) {
+  return Existeix_Document(tipus_pressupost, numero, empresa);
+}
+
+std::int64_t Comptar_Linies_Pressupost(std::int64_t numero, const std::string& empresa) {
+  return Comptar_Linies(tipus_pressupost, numero, empresa);
+}
+
+void Esborrar_Pressupost(std::int64_t numero, const std::string& empresa) {
+  Demanar_Esborrar_Document(tipus_pressupost, numero, empresa);
+}
+
+int Estat_Bloqueig_Pressupost(std::int64_t numero, const std::string& empresa) {
+  if (!Bloquejat(numero, empresa)) return 0;
+  const Recordset cap(
+      "SELECT ESTAT_PC FROM PRESSUPOSTCAP" + Condicio_Document(tipus_pressupost, tipus_pressupost.cap, numero, empresa),
+      sessio.Connexio_Comuna);
+  return cap.RecordCount() > 0 && Nul_A_Defecte(cap[0]).Boolea() ? 2 : 1;
+}
+
+void Afegir_Linia_Pressupost(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
+                             Document_Obert& obert) {
+  Afegir_Linia(tipus_pressupost, cap, linia, linies, obert);
+}
+
+bool Esborrar_Linia_Pressupost(std::int64_t numero, const std::string& empresa, std::int16_t linia,
+                               const std::string& article) {
+  return Esborrar_Linia(tipus_pressupost, {.numero = numero, .empresa = empresa},
+                        {.numero = linia, .article = article});
+}
+
+bool Estat_Linia_Pressupost(std::int64_t numero, const std::string& empresa, std::int16_t linia) {
+  const Recordset rs("SELECT ESTAT_PL FROM PRESSUPOSTLIN" +
+                         Condicio_Document(tipus_pressupost, tipus_pressupost.lin, numero, empresa) +
+                         " AND LIN_PL = " + std::to_string(linia),
+                     sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 && Nul_A_Defecte(rs[0]).Boolea();
+}
+
+void Actualitzar_Estat_Pressupost(std::int64_t numero, const std::string& empresa) {
+  Recordset rs(
+      "SELECT ESTAT_PL FROM PRESSUPOSTLIN" + Condicio_Document(tipus_pressupost, tipus_pressupost.lin, numero, empresa),
+      sessio.Connexio_Comuna);
+  bool acceptat = rs.RecordCount() > 0;
+  for (; acceptat && !rs.Eof(); rs.MoveNext()) acceptat = Nul_A_Defecte(rs[0]).Boolea();
+  Posar_Estat_Al_Formulari(acceptat);
+}
 
 void Alliberar_Linia_Pressupost(std::int64_t document, const std::string& empresa, std::int64_t linia) {
   const std::string condicio = " WHERE EMPRESA_PL = " + Text_SQL(empresa) +

@@ -3,6 +3,7 @@
 #include "payments/M_Pagaments.h"
 #include "sales/M_Albarans.h"
 #include "sales/M_Comandes.h"
+#include "sales/M_Pressupostos.h"
 
 const Tipus_Document tipus_pressupost = {
     .formulari = "F_PRESSUPOST",
@@ -19,7 +20,8 @@ const Tipus_Document tipus_pressupost = {
     .pregunta_esborrar = {"Segur d'esborrar el Pressupost ", "¿Seguro de eliminar el Presupuesto ",
                           "Are you sure to delete Proposal "},
     .refus_esborrar = {"No es pot esborrar el Pressupost ", "¡¡¡ No se puede eliminar el Presupuesto ",
-                       "Unable to delete Proposal "}};
+                       "Unable to delete Proposal "},
+    .passos = &passos_pressupost};
 
 const Tipus_Document tipus_comanda = {
     .formulari = "F_COMANDA",

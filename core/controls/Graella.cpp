@@ -106,6 +106,14 @@ void Graella::Estil_De_Fila(std::function<QString(std::int64_t fila)> estil) {
   model_->estil = std::move(estil);
 }
 
+void Graella::Files_OK(const std::string& camp) {
+  Estil_De_Fila([this, camp](std::int64_t fila) {
+    const Recordset& rs = *model_->Lligat();
+    const Valor marcada = rs.Valor_De_Fila(fila, rs.Index_Camp(camp));
+    return !marcada.Es_Nul() && marcada.Boolea() ? QStringLiteral("OK") : QString();
+  });
+}
+
 std::int64_t Graella::Files() const {
   return model_->Files();
 }

@@ -63,6 +63,8 @@ class Graella : public QTableView {
   void Mostrar_Fila_Afegida();
   // The style of a row, by its number from 0: the name of one of the styles, or empty.
   void Estil_De_Fila(std::function<QString(std::int64_t fila)> estil);
+  // Rows where this boolean column is set take the style OK.
+  void Files_OK(const std::string& camp);
 
   std::int64_t Files() const;
   std::int64_t Fila_Actual() const;     // from 0; -1 none. The recordset's current row follows it

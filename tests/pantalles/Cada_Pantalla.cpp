@@ -26,6 +26,8 @@ constexpr char albarans_m[] = "F_ALBARANSM";
 constexpr char comandes_s[] = "F_COMANDESS";
 constexpr char comandes_m[] = "F_COMANDESM";
 constexpr char comandes_mcs[] = "F_COMANDESMCS";
+constexpr char pressupostos_s[] = "F_PRESSUPOSTOSS";
+constexpr char pressupostos_m[] = "F_PRESSUPOSTOSM";
 constexpr char usuaris_m[] = "F_USUARISM";
 constexpr char clients_m[] = "F_CLIENTSM";
 constexpr char proveidors_m[] = "F_PROVEIDORSM";
@@ -98,6 +100,14 @@ const Cami camins[] = {
        Doble_Clic("F_ALBARANSM", 0);
      },
      false},
+    {pressupostos_s, Obrir_Sol<pressupostos_s>, true},
+    {pressupostos_m, Obrir_Sol<pressupostos_m>, false},
+    {"F_PRESSUPOST",
+     [] {
+       Obrir(QStringLiteral("F_PRESSUPOSTOSM"));
+       Doble_Clic("F_PRESSUPOSTOSM", 0);
+     },
+     false},
     {comandes_s, Obrir_Sol<comandes_s>, true},
     {comandes_m, Obrir_Sol<comandes_m>, false},
     {comandes_mcs, Obrir_Sol<comandes_mcs>, true},
@@ -144,7 +154,7 @@ std::span<const Cami> Camins() {
 }
 
 Cada_Pantalla::Cada_Pantalla() {
-  for (const char* dades : {"botiga.txt", "albarans.txt", "comandes.txt", "usuaris.txt"})
+  for (const char* dades : {"botiga.txt", "albarans.txt", "comandes.txt", "pressupostos.txt", "usuaris.txt"})
     Carregar_Dades(QString::fromLatin1(dades));
   sessio.Connexio_Comuna.Execute("INSERT INTO PROVEIDORS (NIF_PRO, RAO_SOCIAL_PRO) VALUES ('P1', 'Ferros')");
   sessio.Connexio_Comuna.Execute("INSERT INTO ARTICLES (CODI_ART, DESCRIPCIO_ART) VALUES ('AAA', 'Hostil')");
