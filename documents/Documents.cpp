@@ -8,6 +8,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
 #include "core/dades/Text.h"
+#include "documents/M_Linies_Document.h"
 #include "session/M_Locks.h"
 
 namespace {
@@ -183,15 +184,14 @@ std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, co
 
 void Demanar_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
   sessio.Connexio_Comuna.Demanar(SQL_Comptar_Linies(tipus, numero, empresa));
-  if (const auto demanar = Passos_De(tipus).demanar_bloquejat) demanar(numero, empresa);
+  Demanar_Bloquejat_Per_Linies(tipus, numero, empresa);
 }
 
 Estat_Document Llegir_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
   Transaccio lectures(sessio.Connexio_Comuna);
   Demanar_Estat(tipus, numero, empresa);
-  const auto bloquejat = Passos_De(tipus).bloquejat;
   Estat_Document estat;
-  estat.bloquejat = bloquejat != nullptr && bloquejat(numero, empresa);
+  estat.bloquejat = Bloquejat_Per_Linies(tipus, numero, empresa);
   estat.te_linies = Comptar_Linies(tipus, numero, empresa) > 0;
   lectures.Confirmar();
   return estat;

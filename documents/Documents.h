@@ -62,10 +62,8 @@ struct Apunt_Linia {
 
 // What a kind does of its own around its lines. A step that is null is not taken.
 struct Passos_Document {
-  // The customer cannot change any more.
-  bool (*bloquejat)(const Valor& numero, const std::string& empresa) = nullptr;
-  // It will be asked in this transaction, when a line has been written (Connexio::Demanar).
-  void (*demanar_bloquejat)(const Valor& numero, const std::string& empresa) = nullptr;
+  // Role word: a line where this column is not 0 keeps the customer, as a closed document does. Null: nothing keeps it.
+  const char* columna_que_bloqueja = nullptr;
   // No more lines. Null: its state box tells.
   bool (*tancat)(const Valor& numero, const std::string& empresa) = nullptr;
 

@@ -23,8 +23,7 @@ bool Editor_Document::Desar_Linia() {
               [this] {
                 entrada_->Refer_PVP();
                 Afegir_Linia(Tipus(), cap_->Oberta(), entrada_->Linia(), linies_, *this);
-                const auto bloquejat = Passos_De(Tipus()).bloquejat;
-                llegit_ = {true, bloquejat != nullptr && bloquejat(Numero(), sessio.Empresa_Actual)};
+                llegit_ = {true, Bloquejat_Per_Linies(Tipus(), Numero(), sessio.Empresa_Actual)};
               },
               [this] {
                 cap_->Cancellar();

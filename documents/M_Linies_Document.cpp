@@ -117,7 +117,7 @@ void Afegir_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, cons
   if (apunt.abans) apunt.abans();
   Escriure_Linia(tipus, cap, linia, numero, linies);
   if (estoc.demanar) estoc.demanar();
-  if (passos.demanar_bloquejat != nullptr) passos.demanar_bloquejat(cap.numero, cap.empresa);
+  Demanar_Bloquejat_Per_Linies(tipus, cap.numero, cap.empresa);
   Calcular_Totals(tipus, cap.numero, cap.empresa, obert);
   Apuntar(tipus, estoc);
   if (apunt.despres) apunt.despres();
@@ -210,16 +210,18 @@ std::string SQL_Linies_Amb(const Tipus_Document& tipus, const Valor& numero, con
 
 }  // namespace
 
-void Demanar_Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
-                                  const char* columna) {
+void Demanar_Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  const char* columna = Passos_De(tipus).columna_que_bloqueja;
+  if (columna == nullptr) return;
   sessio.Connexio_Comuna.Demanar(SQL_Estat(tipus, numero, empresa));
   sessio.Connexio_Comuna.Demanar(SQL_Linies_Amb(tipus, numero, empresa, columna));
 }
 
-bool Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
-                          const char* columna) {
+bool Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
+  const char* columna = Passos_De(tipus).columna_que_bloqueja;
+  if (columna == nullptr) return false;
   Transaccio lectures(sessio.Connexio_Comuna);
-  Demanar_Bloquejat_Per_Linies(tipus, numero, empresa, columna);
+  Demanar_Bloquejat_Per_Linies(tipus, numero, empresa);
   const Recordset cap(SQL_Estat(tipus, numero, empresa), sessio.Connexio_Comuna);
   const bool bloquejat =
       (cap.RecordCount() > 0 && Nul_A_Defecte(cap[0]).Boolea()) ||

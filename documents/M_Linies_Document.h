@@ -28,12 +28,10 @@ bool Recalcular_Linies(const Tipus_Document& tipus, const Capcalera_Oberta& cap,
 bool Moure_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, std::int16_t linia,
                  bool avall);
 
-// Is the document closed, or has it lines where this column (a role word) is not 0. Demanar_: it will be asked in this
-// transaction (Connexio::Demanar).
-bool Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
-                          const char* columna);
-void Demanar_Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,
-                                  const char* columna);
+// Is the document closed, or has it lines that keep its customer (Passos_Document::columna_que_bloqueja). Demanar_: it
+// will be asked in this transaction (Connexio::Demanar).
+bool Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
+void Demanar_Bloquejat_Per_Linies(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);
 
 // The total that the open form shows: of the foot, which is rebuilt, or of the lines where a kind has no foot.
 void Calcular_Totals(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa,

@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr const char* columna_que_bloqueja = "COMANDA";  // the order that a line serves
-
 bool Es_Usuari_Sense_Comandes() {
   return sessio.P_Comandes == "X";
 }
@@ -75,18 +73,9 @@ bool Es_Pot_Moure(const Valor& numero, const std::string& empresa, std::int16_t 
   return !Es_Usuari_Sense_Comandes() || !Te_Linies_De_Pressupost(numero.Enter(), empresa);
 }
 
-void Demanar_Bloquejat(const Valor& numero, const std::string& empresa) {
-  Demanar_Bloquejat_Per_Linies(tipus_albara, numero, empresa, columna_que_bloqueja);
-}
-
-bool Bloquejat(const Valor& numero, const std::string& empresa) {
-  return Albara_Bloquejat(numero.Enter(), empresa);
-}
-
 }  // namespace
 
-const Passos_Document passos_albara = {.bloquejat = Bloquejat,
-                                       .demanar_bloquejat = Demanar_Bloquejat,
+const Passos_Document passos_albara = {.columna_que_bloqueja = "COMANDA",
                                        .demanar = Demanar_Magatzem_Probable,
                                        .apunt = Flags_D_Albara,
                                        .estoc = Estoc_D_Albara,
@@ -128,7 +117,7 @@ void Esborrar_Albara(std::int64_t numero, const std::string& empresa) {
 }
 
 bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa) {
-  return Bloquejat_Per_Linies(tipus_albara, numero, empresa, columna_que_bloqueja);
+  return Bloquejat_Per_Linies(tipus_albara, numero, empresa);
 }
 
 void Afegir_Linia_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,

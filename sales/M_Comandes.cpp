@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr const char* columna_que_bloqueja = "SERVIDES";
-
 // An order with a new line is not served any more.
 Apunt_Linia Flags_De_Comanda(const Capcalera_Oberta& cap, const Linia_Entrada& /*linia*/) {
   const Document_Pagable comanda{'P', cap.numero.Enter()};
@@ -48,21 +46,12 @@ bool Es_Pot_Moure(const Valor& numero, const std::string& empresa, std::int16_t 
   return rs.RecordCount() > 0 && !Te_Linies_De_Pressupost(numero.Enter(), empresa);
 }
 
-bool Bloquejada(const Valor& numero, const std::string& empresa) {
-  return Bloquejat_Per_Linies(tipus_comanda, numero, empresa, columna_que_bloqueja);
-}
-
-void Demanar_Bloquejada(const Valor& numero, const std::string& empresa) {
-  Demanar_Bloquejat_Per_Linies(tipus_comanda, numero, empresa, columna_que_bloqueja);
-}
-
 }  // namespace
 
-const Passos_Document passos_comanda = {.bloquejat = Bloquejada,
-                                        .demanar_bloquejat = Demanar_Bloquejada,
+const Passos_Document passos_comanda = {.columna_que_bloqueja = "SERVIDES",
                                         .apunt = Flags_De_Comanda,
                                         .columnes = Columnes_De_Comanda,
-                                        .columna_lligada = columna_que_bloqueja,
+                                        .columna_lligada = "SERVIDES",
                                         .despres_d_esborrar = Alliberar_Pressupost,
                                         .linies_esborrades = Refer_Comanda,
                                         .es_pot_moure = Es_Pot_Moure};
@@ -92,7 +81,7 @@ void Esborrar_Comanda(std::int64_t numero, const std::string& empresa) {
 }
 
 bool Comanda_Bloquejada(std::int64_t numero, const std::string& empresa) {
-  return Bloquejada(numero, empresa);
+  return Bloquejat_Per_Linies(tipus_comanda, numero, empresa);
 }
 
 void Afegir_Linia_Comanda(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,

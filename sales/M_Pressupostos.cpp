@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr const char* columna_que_bloqueja = "COMANDA";
-
 void Posar_Estat_Al_Formulari(bool estat) {
   if (Document_Obert* obert = sessio.pantalla->Document(tipus_pressupost.formulari)) obert->Posar_Estat(estat);
 }
@@ -25,18 +23,9 @@ void Refer_Pressupost(const Capcalera_Oberta& cap, Document_Obert& /*obert*/) {
   Actualitzar_Estat_Pressupost(cap.numero.Enter(), cap.empresa);
 }
 
-bool Bloquejat(const Valor& numero, const std::string& empresa) {
-  return Bloquejat_Per_Linies(tipus_pressupost, numero, empresa, columna_que_bloqueja);
-}
-
-void Demanar_Bloquejat(const Valor& numero, const std::string& empresa) {
-  Demanar_Bloquejat_Per_Linies(tipus_pressupost, numero, empresa, columna_que_bloqueja);
-}
-
 }  // namespace
 
-const Passos_Document passos_pressupost = {.bloquejat = Bloquejat,
-                                           .demanar_bloquejat = Demanar_Bloquejat,
+const Passos_Document passos_pressupost = {.columna_que_bloqueja = "COMANDA",
                                            .apunt = Obrir_Pressupost,
                                            .columnes = Columnes_De_Pressupost,
                                            .columna_lligada = "ESTAT",
@@ -67,7 +56,7 @@ void Esborrar_Pressupost(std::int64_t numero, const std::string& empresa) {
 }
 
 int Estat_Bloqueig_Pressupost(std::int64_t numero, const std::string& empresa) {
-  if (!Bloquejat(numero, empresa)) return 0;
+  if (!Bloquejat_Per_Linies(tipus_pressupost, numero, empresa)) return 0;
   const Recordset cap(
       "SELECT ESTAT_PC FROM PRESSUPOSTCAP" + Condicio_Document(tipus_pressupost, tipus_pressupost.cap, numero, empresa),
       sessio.Connexio_Comuna);
