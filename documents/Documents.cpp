@@ -185,6 +185,7 @@ std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, co
 void Demanar_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
   sessio.Connexio_Comuna.Demanar(SQL_Comptar_Linies(tipus, numero, empresa));
   Demanar_Bloquejat_Per_Linies(tipus, numero, empresa);
+  if (const auto origens = Passos_De(tipus).origens) sessio.Connexio_Comuna.Demanar(origens(numero));
 }
 
 Estat_Document Llegir_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
@@ -193,6 +194,12 @@ Estat_Document Llegir_Estat(const Tipus_Document& tipus, const Valor& numero, co
   Estat_Document estat;
   estat.bloquejat = Bloquejat_Per_Linies(tipus, numero, empresa);
   estat.te_linies = Comptar_Linies(tipus, numero, empresa) > 0;
+  if (const auto origens = Passos_De(tipus).origens) {
+    for (Recordset rs(origens(numero), sessio.Connexio_Comuna); !rs.Eof(); rs.MoveNext()) {
+      estat.te_origens = true;
+      estat.congelat = estat.congelat || Iguals_Plegats(rs[0].Text(), empresa);
+    }
+  }
   lectures.Confirmar();
   return estat;
 }
@@ -230,8 +237,14 @@ void Demanar_Esborrar_Document(const Tipus_Document& tipus, const Valor& numero,
 }
 
 bool Esborrar_Document(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
-  return sessio.Connexio_Comuna.Execute("DELETE * FROM " + std::string(tipus.cap.nom) +
-                                        Condicio_Document(tipus, tipus.cap, numero, empresa)) > 0;
+  const auto document_esborrat = Passos_De(tipus).document_esborrat;
+  bool hi_era = false;
+  En_Transaccio(sessio.Connexio_Comuna, [&] {
+    hi_era = sessio.Connexio_Comuna.Execute("DELETE * FROM " + std::string(tipus.cap.nom) +
+                                            Condicio_Document(tipus, tipus.cap, numero, empresa)) > 0;
+    if (hi_era && document_esborrat != nullptr) document_esborrat(numero, empresa);
+  });
+  return hi_era;
 }
 
 Buit Esborrar_Document_Buit(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {

@@ -64,8 +64,9 @@ struct Apunt_Linia {
 struct Passos_Document {
   // Role word: a line where this column is not 0 keeps the customer, as a closed document does. Null: nothing keeps it.
   const char* columna_que_bloqueja = nullptr;
-  // No more lines. Null: its state box tells.
-  bool (*tancat)(const Valor& numero, const std::string& empresa) = nullptr;
+  // A statement of the papers that this one is made of, by company and how many. Those of its own company freeze it: no
+  // line comes or goes, though what it has may move. Any of them keeps its customer.
+  std::string (*origens)(const Valor& numero) = nullptr;
 
   // A new line, in this order. The first one asks together for what the others will read (Connexio::Demanar); the
   // second may refuse the line, by raising, and writes nothing yet.
@@ -85,6 +86,9 @@ struct Passos_Document {
   void (*linies_esborrades)(const Capcalera_Oberta& cap, Document_Obert& obert) = nullptr;
 
   bool (*es_pot_moure)(const Valor& numero, const std::string& empresa, std::int16_t linia) = nullptr;
+
+  // The whole paper has been deleted: what depended on it is let go, in the same transaction.
+  void (*document_esborrat)(const Valor& numero, const std::string& empresa) = nullptr;
 };
 
 struct Tipus_Document {
@@ -152,7 +156,9 @@ std::int64_t Comptar_Linies(const Tipus_Document& tipus, const Valor& numero, co
 // What its lines keep the head from, read together as the database has it now: another terminal may have added some.
 struct Estat_Document {
   bool te_linies = false;
-  bool bloquejat = false;  // the customer cannot change any more
+  bool bloquejat = false;   // the customer cannot change any more
+  bool congelat = false;    // made of other papers: no line comes or goes
+  bool te_origens = false;  // of whatever company
 };
 // Both will be asked in this transaction (Connexio::Demanar).
 void Demanar_Estat(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);

@@ -101,6 +101,7 @@ void Editor_Document::Connectar_Botons() {
   boto("B_VALORAR", Dibuix::Calcular, [this] { Valorar(); });
   boto("B_PRINT_VALORAT", Dibuix::Imprimir, [this] { Imprimir(";VALORAT"); });
   boto("B_PRINT_NO_VALORAT", Dibuix::Imprimir, [this] { Imprimir(";NO_VALORAT"); });
+  if (descripcio_.primer_forat != nullptr) boto("B_Forats", Dibuix::Cercar, [this] { Proposar_Forat(); });
   for (const auto& [nom, formulari] : descripcio_.botons)
     Boto_De_Pantalla(QString::fromUtf16(nom), QString::fromUtf16(formulari));
   if (descripcio_.sense_pagaments != nullptr) {
@@ -161,8 +162,7 @@ void Editor_Document::Activar() {
 }
 
 bool Editor_Document::Tancat() const {
-  const auto tancat = Passos_De(Tipus()).tancat;
-  return tancat == nullptr ? cap_->Esta_Marcada("ESTAT") : tancat(Numero(), sessio.Empresa_Actual);
+  return cap_->Esta_Marcada("ESTAT");
 }
 
 // The head holds what a line needs: whom it is for, where from and where to.
@@ -182,14 +182,15 @@ void Editor_Document::Aplicar_Estat() {
   };
   for (const char* nom : descripcio_.fixats) treure(cap_->Control(QString::fromUtf8(nom)), cap_obert);
   if (descripcio_.qui != nullptr) {
-    treure(Boto(descripcio_.qui->boto), estat_.te_linies ? Dret() != "C" && !estat_.bloquejat : cap_obert);
+    const bool es_pot_triar = estat_.te_linies ? Dret() != "C" && !estat_.bloquejat : cap_obert;
+    treure(Boto(descripcio_.qui->boto), es_pot_triar && !estat_.te_origens);
   }
   const bool tancat = Tancat();
   for (const char* nom : {"B_AMUNT", "B_AVALL"}) {
     if (QPushButton* boto = Boto(nom)) boto->setEnabled(!tancat && Dret() != "C");
   }
   if (tancat && descripcio_.amaga_entrada) nova_->hide();
-  if (!descripcio_.amaga_entrada) nova_->setEnabled(!tancat);
+  if (!descripcio_.amaga_entrada) nova_->setEnabled(!tancat && !estat_.congelat);
 }
 
 // The first option is for lines, the second one shows the foot.
@@ -219,6 +220,10 @@ QString Editor_Document::Per_Que_No(const QWidget& /*control*/) const {
   };
   if (Tancat()) {
     return paraules("El document està tancat", "El documento está cerrado", "The document is closed");
+  }
+  if (estat_.te_origens) {
+    return paraules("El document està fet d'altres documents", "El documento está hecho de otros documentos",
+                    "The document is made of other documents");
   }
   if (estat_.te_linies) {
     return paraules("El document ja té línies", "El documento ya tiene líneas", "The document has lines already");

@@ -37,6 +37,7 @@ struct Descripcio_Editor {
   std::vector<const char*> fixats;               // lines fix these
   std::vector<const char*> desen = {"DT_DATA"};  // a change of these saves the head
   bool amaga_entrada = true;                     // a closed document hides the entry frame; else it is disabled
+  std::int64_t (*primer_forat)() = nullptr;      // the number that B_Forats proposes; null: no such button
   // Prints it: sessio.Crida_Document tells whether with prices.
   void (*imprimir)(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) = nullptr;
   std::vector<Boto_D_Editor> botons = {};
@@ -88,6 +89,7 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Aplicar_Opcio();
   void Mostrar_Estat();
   void Deixar_Numero();
+  void Proposar_Forat();
   bool Acceptar_Numero();
   void Canviar_Numero(const Valor& nou);
   void Canviar_Qui();

@@ -42,6 +42,12 @@ void Editor_Document::Deixar_Numero() {
   if (!Acceptar_Numero()) Retenir_Focus(cap_->Camp_Numero());
 }
 
+// The number is taken when the field is left.
+void Editor_Document::Proposar_Forat() {
+  cap_->Camp_Numero()->setText(QString::number(descripcio_.primer_forat()));
+  Posar_Focus(cap_->Camp_Numero());
+}
+
 // The lock of the new number first: when it is refused the document stays locked under its own.
 void Editor_Document::Canviar_Numero(const Valor& nou) {
   const std::string lletra(Tipus().lletra_bloqueig);

@@ -23,7 +23,9 @@ bool Editor_Document::Desar_Linia() {
               [this] {
                 entrada_->Refer_PVP();
                 Afegir_Linia(Tipus(), cap_->Oberta(), entrada_->Linia(), linies_, *this);
-                llegit_ = {true, Bloquejat_Per_Linies(Tipus(), Numero(), sessio.Empresa_Actual)};
+                llegit_ = estat_;
+                llegit_->te_linies = true;
+                llegit_->bloquejat = Bloquejat_Per_Linies(Tipus(), Numero(), sessio.Empresa_Actual);
               },
               [this] {
                 cap_->Cancellar();

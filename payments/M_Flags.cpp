@@ -130,8 +130,8 @@ class Recorregut {
 
   // The list grows while it is gone through; a document that is in it already does not enter again, which ends the
   // walk.
-  void Fer(const Document_Pagable& inici) {
-    feina_.Afegir(inici);
+  void Fer(const Documents& inicis) {
+    for (const Document_Pagable& inici : inicis) feina_.Afegir(inici);
     while (fets_ < feina_.Quants()) {
       for (const std::size_t fins_on = feina_.Quants(); fets_ < fins_on; ++fets_) Avaluar_Flag_Pagament(feina_[fets_]);
       sessio.pantalla->Processar_Events();
@@ -208,10 +208,12 @@ class Recorregut {
 
 }  // namespace
 
-void Propagar_Flag_Pagaments(Cadena& cadena, const Document_Pagable& document) {
+namespace {
+
+void Propagar_Des_De(Cadena& cadena, const Documents& documents) {
   Recorregut recorregut(cadena);
   try {
-    recorregut.Fer(document);
+    recorregut.Fer(documents);
   } catch (...) {
     recorregut.Desar();
     throw;
@@ -219,13 +221,22 @@ void Propagar_Flag_Pagaments(Cadena& cadena, const Document_Pagable& document) {
   recorregut.Desar();
 }
 
-// Flags that were written before an error stay when nobody else's work depends on them.
+}  // namespace
+
+void Propagar_Flag_Pagaments(Cadena& cadena, const Document_Pagable& document) {
+  Propagar_Des_De(cadena, {document});
+}
+
 void Propagar_Flag_Pagaments(const std::string& document, std::int64_t numalb) {
-  const Document_Pagable inici{document.at(0), numalb};
+  Propagar_Flag_Pagaments(std::vector<Document_Pagable>{{document.at(0), numalb}});
+}
+
+// Flags that were written before an error stay when nobody else's work depends on them.
+void Propagar_Flag_Pagaments(const std::vector<Document_Pagable>& documents) {
   Transaccio transaccio(sessio.Connexio_Comuna);
-  Cadena cadena({inici});
+  Cadena cadena(documents);
   try {
-    Propagar_Flag_Pagaments(cadena, inici);
+    Propagar_Des_De(cadena, documents);
   } catch (const Error_Brollador& error) {
     if (error.Numero() == errors::refusat) transaccio.Confirmar();
     throw;

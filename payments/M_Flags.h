@@ -13,6 +13,8 @@
 // unless one is open. Raises 1010 with its text when the chain is not as it should be: it ends there, and what it wrote
 // stays (unless the caller undoes it).
 void Propagar_Flag_Pagaments(const std::string& document, std::int64_t numalb);
+// The same from several documents, none of them twice.
+void Propagar_Flag_Pagaments(const std::vector<Document_Pagable>& documents);
 // The same over a chain that has been read already; it is in the caller's transaction.
 void Propagar_Flag_Pagaments(Cadena& cadena, const Document_Pagable& document);
 

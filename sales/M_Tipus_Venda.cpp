@@ -3,6 +3,7 @@
 #include "payments/M_Pagaments.h"
 #include "sales/M_Albarans.h"
 #include "sales/M_Comandes.h"
+#include "sales/M_Factures.h"
 #include "sales/M_Pressupostos.h"
 
 const Tipus_Document tipus_pressupost = {
@@ -78,7 +79,8 @@ const Tipus_Document tipus_factura = {
                           "Are you sure to delete Invoice "},
     .refus_esborrar = {"No es pot esborrar la Factura ", "¡¡¡ No se puede eliminar la Factura ",
                        "Unable to delete Invoice "},
-    .error_estoc = "Error al intentar actualitzar movimientos, stock ..."};
+    .error_estoc = "Error al intentar actualitzar movimientos, stock ...",
+    .passos = &passos_factura};
 
 void Registrar_Tipus_Venda() {
   for (const Tipus_Document* tipus : {&tipus_pressupost, &tipus_comanda, &tipus_albara, &tipus_factura})

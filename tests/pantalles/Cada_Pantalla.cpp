@@ -26,6 +26,8 @@ constexpr char albarans_m[] = "F_ALBARANSM";
 constexpr char comandes_s[] = "F_COMANDESS";
 constexpr char comandes_m[] = "F_COMANDESM";
 constexpr char comandes_mcs[] = "F_COMANDESMCS";
+constexpr char factures_s[] = "F_FACTURESS";
+constexpr char factures_m[] = "F_FACTURESM";
 constexpr char pressupostos_s[] = "F_PRESSUPOSTOSS";
 constexpr char pressupostos_m[] = "F_PRESSUPOSTOSM";
 constexpr char usuaris_m[] = "F_USUARISM";
@@ -117,6 +119,14 @@ const Cami camins[] = {
        Doble_Clic("F_COMANDESM", 0);
      },
      false},
+    {factures_s, Obrir_Sol<factures_s>, true},
+    {factures_m, Obrir_Sol<factures_m>, false},
+    {"F_FACTURA",
+     [] {
+       Obrir(QStringLiteral("F_FACTURESM"));
+       Doble_Clic("F_FACTURESM", 0);
+     },
+     false},
     {"F_PAGDOC",
      [] {
        sessio.Pag_Document = "A";
@@ -154,7 +164,8 @@ std::span<const Cami> Camins() {
 }
 
 Cada_Pantalla::Cada_Pantalla() {
-  for (const char* dades : {"botiga.txt", "albarans.txt", "comandes.txt", "pressupostos.txt", "usuaris.txt"})
+  for (const char* dades :
+       {"botiga.txt", "albarans.txt", "comandes.txt", "pressupostos.txt", "factures.txt", "usuaris.txt"})
     Carregar_Dades(QString::fromLatin1(dades));
   sessio.Connexio_Comuna.Execute("INSERT INTO PROVEIDORS (NIF_PRO, RAO_SOCIAL_PRO) VALUES ('P1', 'Ferros')");
   sessio.Connexio_Comuna.Execute("INSERT INTO ARTICLES (CODI_ART, DESCRIPCIO_ART) VALUES ('AAA', 'Hostil')");

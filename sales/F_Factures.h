@@ -1,0 +1,4 @@
+// The screens of invoices: search, list, editor.
+#pragma once
+
+void Registrar_Formularis_Factura();
