@@ -108,11 +108,24 @@ void Delegat_Graella::setEditorData(QWidget* editor, const QModelIndex& index) c
   camp->setText(index.data(Qt::EditRole).toString());
 }
 
-// What the row does not take is told, and the cell shows what it held.
+// What the row does not take is told, once, and stays in its cell. A box takes the focus, and the editor that loses it
+// comes here again.
 void Delegat_Graella::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const {
   const auto* combo = qobject_cast<QComboBox*>(editor);
   const QVariant escrit = combo != nullptr ? combo->currentData() : qobject_cast<QLineEdit*>(editor)->text();
-  Formulari::Guardar_Event([&] { model->setData(index, escrit, Qt::EditRole); });
+  if (editor == provant_ || (editor == retingut_ && escrit == refusat_)) return;
+  provant_ = editor;
+  retingut_.clear();
+  bool pres = false;
+  Formulari::Guardar_Event([&] {
+    model->setData(index, escrit, Qt::EditRole);
+    pres = true;
+  });
+  provant_.clear();
+  if (pres) return;
+  retingut_ = editor;
+  cella_ = index;
+  refusat_ = escrit;
 }
 
 // The box is painted in the middle, and not where the style has it. The row that waits for a new one says so.

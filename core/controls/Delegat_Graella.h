@@ -2,7 +2,10 @@
 // codes, numbers whose period gives a comma.
 #pragma once
 
+#include <QPersistentModelIndex>
+#include <QPointer>
 #include <QStyledItemDelegate>
+#include <QVariant>
 
 class Model_Recordset;
 
@@ -13,6 +16,11 @@ class Delegat_Graella : public QStyledItemDelegate {
   QWidget* createEditor(QWidget* pare, const QStyleOptionViewItem& opcio, const QModelIndex& index) const override;
   void setEditorData(QWidget* editor, const QModelIndex& index) const override;
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+  // Its cell does not take what the editor holds, or is being asked whether it does.
+  bool Es_Retingut(const QWidget* editor) const { return editor == retingut_ || editor == provant_; }
+  QWidget* Retingut() const { return retingut_; }  // null: none
+  QModelIndex Cella_Retinguda() const { return cella_; }
+  void Deixar_Anar() { retingut_.clear(); }
   // The whole text of a cell that shows a part of it.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* graella, const QStyleOptionViewItem& opcio,
                  const QModelIndex& index) override;
@@ -27,5 +35,11 @@ class Delegat_Graella : public QStyledItemDelegate {
  private:
   QWidget* Nou_Combo(QWidget* pare, const struct Desplegable_Graella& desplegable) const;
   bool Per_Estrenar(const QModelIndex& index) const;  // the empty row at the end
+
   const Model_Recordset& model_;
+  // The editor whose text was refused and told of, and where it stands.
+  mutable QPointer<QWidget> retingut_;
+  mutable QPersistentModelIndex cella_;
+  mutable QVariant refusat_;
+  mutable QPointer<const QWidget> provant_;
 };

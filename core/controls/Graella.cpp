@@ -18,13 +18,14 @@ constexpr int alcada_fila = 24;
 
 }  // namespace
 
-Graella::Graella(QWidget* pare) : QTableView(pare), model_(new Model_Recordset(this)) {
+Graella::Graella(QWidget* pare)
+    : QTableView(pare), model_(new Model_Recordset(this)), delegat_(new Delegat_Graella(*model_, this)) {
   setModel(model_);
   setAlternatingRowColors(true);
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
   setEditTriggers(NoEditTriggers);
-  setItemDelegate(new Delegat_Graella(*model_, this));
+  setItemDelegate(delegat_);
   connect(qApp, &QApplication::focusChanged, this,
           [this](const QWidget* /*abans*/, const QWidget* ara) { Deixar_Graella(ara); });
   setWordWrap(false);

@@ -45,6 +45,7 @@ struct Passos_Fila {
   std::function<void()> desada;
 };
 
+class Delegat_Graella;
 class Model_Recordset;
 
 class Graella : public QTableView {
@@ -89,8 +90,8 @@ class Graella : public QTableView {
   QString Taula_Copiada() const;
 
   // Rows may be changed and added in the grid, or only read. A row is written when it is left; one that is refused
-  // stays in edit with what was typed, and Esc gives it up; one that another terminal changed is read again. Enter goes
-  // to the next cell.
+  // stays in edit with what was typed, and Esc gives it up; so does a cell that does not take its text; one that
+  // another terminal changed is read again. Enter goes to the next cell.
   void Permetre_Canvis(bool permes);
   bool Permet_Canvis() const;
   // `titols` of its two columns, when the open list shows the codes too.
@@ -154,9 +155,12 @@ class Graella : public QTableView {
   void Saltar(int pas);
   bool S_Obre_Sola(const QModelIndex& index) const;
   void Desar_I_Avisar();
+  void Tornar_A_La_Cella();
+  const QWidget* Espai_Propi() const;
   void Rellegir();
 
   Model_Recordset* model_;
+  Delegat_Graella* delegat_;
   std::vector<int> amplades_;  // given by the description or by the user; 0: hidden
   bool omplint_ = false;
   bool nomes_afegida_ = false;  // the layout under way is for a row at the end

@@ -1,12 +1,15 @@
 // Rows of a grid that are edited in place: begun by the first key, written when they are left, held meanwhile.
+#include <QApplication>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <algorithm>
 
+#include "core/controls/Delegat_Graella.h"
 #include "core/controls/Focus_Camps.h"
 #include "core/controls/Graella.h"
 #include "core/controls/Model_Recordset.h"
+#include "core/controls/Refus.h"
 #include "core/formularis/Formulari.h"
 
 void Graella::Permetre_Canvis(bool permes) {
@@ -40,7 +43,10 @@ bool Graella::En_Edicio() const {
   return model_->Fila_En_Edicio() >= 0;
 }
 
+// What the open cell holds counts.
 bool Graella::Desar_Fila() {
+  if (state() == EditingState && indexWidget(currentIndex()) != nullptr) commitData(indexWidget(currentIndex()));
+  if (delegat_->Retingut() != nullptr) return false;
   if (!En_Edicio()) return true;
   if (desant_) return false;
   const QScopedValueRollback guarda(desant_, true);
@@ -72,6 +78,7 @@ void Graella::Rellegir() {
 }
 
 void Graella::Descartar_Fila() {
+  if (QWidget* editor = delegat_->Retingut()) closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
   model_->Descartar_Fila();
 }
 
@@ -98,9 +105,34 @@ bool Graella::edit(const QModelIndex& index, EditTrigger motiu, QEvent* event) {
   return QTableView::edit(index, motiu, event);
 }
 
+// A cell that does not take what was typed stays open with it, wherever the user was going: it is put right there, or
+// given up with Esc.
+void Graella::Tornar_A_La_Cella() {
+  const auto tornar = [this] {
+    QWidget* editor = delegat_->Retingut();
+    if (editor == nullptr) return;
+    setCurrentIndex(delegat_->Cella_Retinguda());
+    const QWidget* ara = QApplication::focusWidget();
+    if (ara != nullptr && !Espai_Propi()->isAncestorOf(ara)) return Senyalar_Refus(editor);
+    Retenir_Focus(editor);
+  };
+  QMetaObject::invokeMethod(this, tornar, Qt::QueuedConnection);
+}
+
+// Its form, or the window of a grid that stands in none.
+const QWidget* Graella::Espai_Propi() const {
+  const QWidget* formulari = parentWidget();
+  while (formulari != nullptr && qobject_cast<const Formulari*>(formulari) == nullptr)
+    formulari = formulari->parentWidget();
+  return formulari == nullptr ? window() : formulari;
+}
+
 // Enter goes on through the row; Tab opens the next cell.
 void Graella::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint com) {
   using enum QAbstractItemDelegate::EndEditHint;
+  if (com != RevertModelCache && delegat_->Es_Retingut(editor)) return Tornar_A_La_Cella();
+  delegat_->Deixar_Anar();
+  Treure_Refus(editor);
   const bool es_mou = com == SubmitModelCache || com == EditNextItem || com == EditPreviousItem;
   const QPersistentModelIndex cella = indexAt(editor->geometry().center());
   QTableView::closeEditor(editor, es_mou ? NoHint : com);
@@ -168,10 +200,7 @@ void Graella::Deixar_Fila(int fila) {
 // Leaving the grid for another control of its form leaves the row. The exit gives up what is refused.
 void Graella::Deixar_Graella(const QWidget* ara) {
   if (!En_Edicio() || ara == nullptr || ara->window() != window() || ara == this || isAncestorOf(ara)) return;
-  const QWidget* formulari = parentWidget();
-  while (formulari != nullptr && qobject_cast<const Formulari*>(formulari) == nullptr)
-    formulari = formulari->parentWidget();
-  if (formulari == nullptr || !formulari->isAncestorOf(ara) || static_cast<const Formulari*>(formulari)->Es_Tanca())
-    return;
-  if (!Desar_Fila()) Retenir_Focus(this);
+  const auto* formulari = qobject_cast<const Formulari*>(Espai_Propi());
+  if (formulari == nullptr || !formulari->isAncestorOf(ara) || formulari->Es_Tanca()) return;
+  if (!Desar_Fila() && delegat_->Retingut() == nullptr) Retenir_Focus(this);
 }

@@ -175,3 +175,100 @@ TEST_F(Graella_Editable, A_column_that_is_never_typed_takes_no_key) {
   EXPECT_FALSE(Hi_Ha_Editor());
   EXPECT_EQ(rs.EditMode(), Edicio::Cap);
 }
+
+// Cells of numbers: what is no number stays where it was typed.
+class Cella_De_Nombre : public Base_Pantalles {
+ protected:
+  Cella_De_Nombre() {
+    auto* columna = new QVBoxLayout(&finestra);
+    columna->addWidget(&graella);
+    columna->addWidget(&camp);
+    graella.Columnes({{"CODI_VEN", 1500, "Codi"}, {"DIES_VEN", 1500, "Dies"}, {"TERMINIS_VEN", 1500, "Terminis"}});
+    rs.Open("SELECT * FROM VENCIMENTS ORDER BY CODI_VEN", sessio.Connexio_Comuna, Bloqueig::Pessimista);
+    graella.Lligar(&rs);
+    graella.Permetre_Canvis(true);
+    finestra.resize(500, 300);
+    finestra.show();
+    QApplication::setActiveWindow(&finestra);
+    Obrir(0, 2);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("dos"));
+  }
+  ~Cella_De_Nombre() override { graella.setParent(nullptr); }
+  void Obrir(int fila, int columna) {
+    graella.setCurrentIndex(graella.model()->index(fila, columna));
+    graella.setFocus();
+    Prem(Qt::Key_F2);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+  }
+  static void Prem(Qt::Key tecla) {
+    QTest::keyClick(QApplication::focusWidget(), tecla);
+    QTest::qWait(20);
+  }
+  static QLineEdit* Editor() { return qobject_cast<QLineEdit*>(QApplication::focusWidget()); }
+  void Exigir_Que_S_Hi_Queda() {
+    QTest::qWait(20);
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_EQ(Editor()->text(), QStringLiteral("dos"));
+    EXPECT_EQ(Editor()->selectedText(), QStringLiteral("dos"));
+    EXPECT_EQ(graella.currentIndex(), graella.model()->index(0, 2));
+    EXPECT_EQ(installacio.pantalla.caixes.size(), 1U) << "it is told once";
+    EXPECT_EQ(installacio.pantalla.caixes[0].text.substr(0, 5), "13 - ");
+  }
+  static double Terminis() {
+    return Recordset("SELECT TERMINIS_VEN FROM VENCIMENTS ORDER BY CODI_VEN", sessio.Connexio_Comuna)[0].Doble();
+  }
+
+  Recordset rs;
+  QWidget finestra;
+  QLineEdit camp;
+  Graella graella;
+};
+
+TEST_F(Cella_De_Nombre, Keeps_what_is_none_whichever_key_leaves_it) {
+  const double abans = Terminis();
+  for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backtab}) {
+    Prem(tecla);
+    Exigir_Que_S_Hi_Queda();
+  }
+  EXPECT_EQ(Terminis(), abans);
+  QTest::keyClicks(Editor(), QStringLiteral("4"));
+  Prem(Qt::Key_Return);
+  EXPECT_TRUE(graella.Desar_Fila());
+  EXPECT_EQ(Terminis(), 4);
+  EXPECT_EQ(installacio.pantalla.caixes.size(), 1U);
+}
+
+TEST_F(Cella_De_Nombre, Keeps_what_is_none_wherever_the_mouse_goes) {
+  for (const QModelIndex& on : {graella.model()->index(0, 1), graella.model()->index(2, 2)}) {
+    QTest::mouseClick(graella.viewport(), Qt::LeftButton, {}, graella.visualRect(on).center());
+    Exigir_Que_S_Hi_Queda();
+  }
+  QTest::mouseClick(&camp, Qt::LeftButton);
+  Exigir_Que_S_Hi_Queda();
+  EXPECT_FALSE(graella.Desar_Fila()) << "the row is not written without it";
+  EXPECT_TRUE(graella.En_Edicio());
+}
+
+TEST_F(Cella_De_Nombre, Is_given_up_with_Esc_and_then_its_row) {
+  Prem(Qt::Key_Return);
+  Prem(Qt::Key_Escape);
+  EXPECT_EQ(Editor(), nullptr);
+  EXPECT_TRUE(graella.En_Edicio());
+  Prem(Qt::Key_Escape);
+  EXPECT_FALSE(graella.En_Edicio());
+  // Or both at once, by whoever closes the form.
+  Obrir(0, 2);
+  QTest::keyClicks(Editor(), QStringLiteral("tres"));
+  Prem(Qt::Key_Return);
+  graella.Descartar_Fila();
+  EXPECT_EQ(graella.indexWidget(graella.currentIndex()), nullptr);
+  EXPECT_FALSE(graella.En_Edicio());
+  EXPECT_TRUE(graella.Desar_Fila());
+}
+
+TEST_F(Cella_De_Nombre, That_is_open_counts_when_its_row_is_written) {
+  QTest::keyClick(Editor(), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(Editor(), QStringLiteral("7"));
+  EXPECT_TRUE(graella.Desar_Fila());
+  EXPECT_EQ(Terminis(), 7);
+}
