@@ -24,13 +24,23 @@ Valor Llegir_Valor(const std::string& sentencia) {
   return rs.RecordCount() > 0 ? rs[0] : Valor();
 }
 
-// The whole part of the last number of a count. What a supplier wrote counts as what ISNUMERIC takes for a number:
-// "$5" is 5, "12,5" is 12.
-double Part_Sencera(const Valor& ultim) {
-  if (!ultim.Es_Text()) return static_cast<double>(Nul_A_Defecte(ultim).Enter());
-  std::string text = ultim.Text();
-  text.erase(0, text.find_first_not_of(" $"));
-  return std::trunc(Numero_De_Text(text).value_or(0));
+// One more than a number of digits alone, however long.
+std::string Un_Mes(std::string xifres) {
+  const std::size_t que_creix = xifres.find_last_not_of('9');
+  if (que_creix == std::string::npos) return "1" + std::string(xifres.size(), '0');
+  ++xifres[que_creix];
+  std::fill(xifres.begin() + static_cast<std::ptrdiff_t>(que_creix) + 1, xifres.end(), '0');
+  return xifres;
+}
+
+// The next of a count of texts. What a supplier wrote counts as what ISNUMERIC takes for a number: "$5" is 5, "12,5" is
+// 12. Digits that a double cannot hold are counted on as they stand.
+std::string Seguent_De_Text(std::string ultim) {
+  constexpr std::size_t xifres_d_un_doble = 15;
+  const bool son_xifres = ultim.find_first_not_of("0123456789") == std::string::npos;
+  if (son_xifres && ultim.size() > xifres_d_un_doble) return Un_Mes(std::move(ultim));
+  ultim.erase(0, ultim.find_first_not_of(" $"));
+  return Text_Numero(std::trunc(Numero_De_Text(ultim).value_or(0)) + 1);
 }
 
 std::string SQL_Ultima_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {
@@ -47,9 +57,9 @@ std::string SQL_Maxim(const Tipus_Document& tipus, const std::string& empresa) {
 
 // The next of a count that ends at `maxim`: raises 6 beyond it.
 std::int64_t Seguent(const Valor& ultim, std::int64_t maxim) {
-  const double sencer = Part_Sencera(ultim);
-  if (sencer >= static_cast<double>(maxim)) Llancar_Error(errors::desbordament, "Documents");
-  return static_cast<std::int64_t>(std::max(sencer, -static_cast<double>(maxim))) + 1;
+  const std::int64_t sencer = Nul_A_Defecte(ultim).Enter();
+  if (sencer >= maxim) Llancar_Error(errors::desbordament, "Documents");
+  return sencer + 1;
 }
 
 }  // namespace
@@ -141,11 +151,9 @@ Valor Crear_Capcalera(const Tipus_Document& tipus) {
 }
 
 Valor Seguent_Numero(const Tipus_Document& tipus, const std::string& empresa) {
-  // Suppliers number their notes longer than we do.
-  constexpr std::int64_t ultim_de_text = 999'999'999'999'999;
-  const std::int64_t seguent = Seguent(Llegir_Valor(SQL_Maxim(tipus, empresa)),
-                                       tipus.numero_es_text ? ultim_de_text : std::numeric_limits<std::int32_t>::max());
-  return tipus.numero_es_text ? Valor(std::to_string(seguent)) : Valor(seguent);
+  const Valor ultim = Llegir_Valor(SQL_Maxim(tipus, empresa));
+  if (tipus.numero_es_text) return Valor(Seguent_De_Text(ultim.Text()));
+  return Valor(Seguent(ultim, std::numeric_limits<std::int32_t>::max()));
 }
 
 std::int16_t Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa) {

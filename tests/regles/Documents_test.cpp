@@ -202,8 +202,16 @@ TEST_F(Documents, a_purchase_note_with_letters_does_not_count_for_the_next_numbe
 }
 
 TEST_F(Documents, what_counts_as_a_number_gives_its_whole_part_to_the_next_one) {
-  for (const auto& [escrit, seguent] : std::vector<std::pair<std::string, std::string>>{
-           {"$5", "6"}, {"12,5", "13"}, {"$ 7", "8"}, {"1.234", "1235"}, {"20260000123456", "20260000123457"}}) {
+  for (const auto& [escrit, seguent] :
+       std::vector<std::pair<std::string, std::string>>{{"$5", "6"},
+                                                        {"12,5", "13"},
+                                                        {"$ 7", "8"},
+                                                        {"1.234", "1235"},
+                                                        {"20260000123456", "20260000123457"},
+                                                        {"123456789012345678", "123456789012345679"},
+                                                        {"9999999999999999", "10000000000000000"},
+                                                        {"007", "8"},
+                                                        {"1E20", "1E+20"}}) {
     Executar("DELETE * FROM ALBCOMPRACAP");
     Posar_Cap(tipus_albcompra, escrit);
     EXPECT_EQ(Seguent_Numero(tipus_albcompra, empresa_prova), Valor(seguent)) << escrit;
