@@ -1,4 +1,4 @@
-// A report of fifteen rows a page, and what stands on its pages.
+// A report of fifteen rows a page, and what stands on its pages; and pages without a report.
 #pragma once
 
 #include <QString>
@@ -59,6 +59,16 @@ inline double Amplada_De(const Text_Posat& text) {
 }
 
 inline const QString descripcio_llarga = QStringLiteral("paraula ").repeated(60).trimmed();
+
+// Pages that tell their number, and nothing else.
+inline Pagines Fer_Pagines(int quantes) {
+  Pagines fetes{.titol = u"Albarà 12"_qs, .autor = {}, .pagines = {}};
+  for (int i = 1; i <= quantes; ++i) {
+    fetes.pagines.push_back(
+        {Text_Posat{{paper::marge, paper::marge + 300}, u"pàgina %1"_qs.arg(i), Lletra({}), Qt::black}});
+  }
+  return fetes;
+}
 
 class Informe_Prova : public Base_Pantalles {
  protected:

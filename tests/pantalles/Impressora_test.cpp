@@ -8,21 +8,11 @@
 #include <QPrinter>
 #include <QTimer>
 
-#include "output/informe/Informe.h"
-#include "tests/pantalles/Base_Pantalles.h"
+#include "tests/pantalles/Base_Informe.h"
 
 namespace {
 
 class Impressora_Terminal : public Base_Pantalles {};
-
-Pagines Fer_Pagines(int quantes) {
-  Pagines fetes{.titol = u"Albarà 12"_qs, .autor = {}, .pagines = {}};
-  for (int i = 1; i <= quantes; ++i) {
-    fetes.pagines.push_back(
-        {Text_Posat{{paper::marge, paper::marge + 300}, u"pàgina %1"_qs.arg(i), Lletra({}), Qt::black}});
-  }
-  return fetes;
-}
 
 }  // namespace
 

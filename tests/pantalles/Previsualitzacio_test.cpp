@@ -16,22 +16,12 @@
 
 #include "core/formularis/Motius.h"
 #include "output/informe/Impressora.h"
-#include "output/informe/Informe.h"
 #include "output/informe/Ordres_Previa.h"
 #include "output/informe/Sortida.h"
 #include "output/informe/Treballs.h"
-#include "tests/pantalles/Base_Pantalles.h"
+#include "tests/pantalles/Base_Informe.h"
 
 namespace {
-
-Pagines Fer_Pagines(int quantes) {
-  Pagines fetes{.titol = u"Albarà 12"_qs, .autor = {}, .pagines = {}};
-  for (int i = 1; i <= quantes; ++i) {
-    fetes.pagines.push_back(
-        {Text_Posat{{paper::marge, paper::marge + 300}, u"pàgina %1"_qs.arg(i), Lletra({}), Qt::black}});
-  }
-  return fetes;
-}
 
 // The preview as a hand has it: the window stands open while `mans` works on it.
 class Previa : public Base_Pantalles {
