@@ -86,11 +86,12 @@ std::vector<Valor_Per> Llegir_Fila(const Crida& crida, const Formulari& formular
   return valors;
 }
 
+// A field that was taken away or closed meanwhile leaves the focus where the form has put it.
 void Portar_El_Focus(const Formulari& formulari, QWidget* camp) {
   if (auto* finestra = qobject_cast<QMdiSubWindow*>(formulari.parentWidget())) {
     Finestra_Principal::Unica()->Portar_Al_Davant(finestra);
   }
-  Posar_Focus(camp);
+  if (camp->isVisibleTo(&formulari) && camp->isEnabled()) Posar_Focus(camp);
 }
 
 QWidget* Camp_Que_Crida(const Crida& crida, const Formulari& formulari) {
