@@ -2,6 +2,8 @@
 #include "payments/F_PagDoc.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 
@@ -57,6 +59,45 @@ TEST_F(Pagaments_D_Un_Document, A_row_begins_with_what_the_form_fills_in) {
   EXPECT_EQ(Text("PAGAMENT_PAG"), QStringLiteral("Transferència"));
   EXPECT_NE(Text("ID_PAG"), QString()) << "the database gives the number";
   EXPECT_TRUE(installacio.pantalla.caixes.empty());
+}
+
+TEST_F(Pagaments_D_Un_Document, Its_columns_have_their_widths_and_sides) {
+  constexpr int twips_per_pixel = 15;
+  const std::vector<std::pair<int, int>> amples = {{1500, 0}, {4000, 5}, {1500, 6}, {2000, 7}};
+  for (const auto& [twips, columna] : amples) EXPECT_EQ(graella->Amplada_Donada(columna), twips / twips_per_pixel);
+  for (int columna = 1; columna < 5; ++columna) EXPECT_TRUE(graella->isColumnHidden(columna));
+  Escriure(5, QStringLiteral("TR"));
+  for (const int columna : {0, 6, 7}) {
+    const auto costat = Qt::Alignment(graella->model()->index(0, columna).data(Qt::TextAlignmentRole).toInt());
+    EXPECT_TRUE(costat.testFlag(Qt::AlignRight)) << columna;
+  }
+}
+
+TEST_F(Pagaments_D_Un_Document, The_methods_are_listed_by_their_description_with_their_codes) {
+  const QModelIndex cella = graella->model()->index(0, 5);
+  graella->setCurrentIndex(cella);
+  static_cast<QTableView*>(graella)->edit(cella);
+  const auto* combo = qobject_cast<QComboBox*>(graella->indexWidget(cella));
+  ASSERT_NE(combo, nullptr);
+  QStringList files;
+  for (int i = 0; i < combo->count(); ++i) files << combo->model()->index(i, 0).data().toString() + combo->itemText(i);
+  EXPECT_EQ(files, (QStringList{QString(), QStringLiteral("EFEfectiu"), QStringLiteral("RERebut domiciliat"),
+                                QStringLiteral("TRTransferència")}));
+  EXPECT_EQ(combo->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Codi"));
+  EXPECT_EQ(combo->model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Forma de Pagament"));
+}
+
+TEST_F(Pagaments_D_Un_Document, A_row_that_is_changed_and_the_closing_walk_the_chain_as_a_new_row_does) {
+  Escriure(5, QStringLiteral("EF"));
+  ASSERT_TRUE(graella->Desar_Fila());
+  Executar("UPDATE ALBARACAP SET PAGAMENT_AC = 0");
+  graella->setCurrentIndex(graella->model()->index(0, 7));
+  Formulari::Guardar_Event([&] { graella->model()->setData(graella->currentIndex(), QStringLiteral("5")); });
+  ASSERT_TRUE(graella->Desar_Fila());
+  EXPECT_TRUE(Flag_Pagament("A", 7));
+  Executar("UPDATE ALBARACAP SET PAGAMENT_AC = 0");
+  Tancar("F_PAGDOC");
+  EXPECT_TRUE(Flag_Pagament("A", 7));
 }
 
 TEST_F(Pagaments_D_Un_Document, A_row_that_is_refused_before_it_is_written_is_given_up) {

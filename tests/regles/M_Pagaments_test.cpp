@@ -23,6 +23,14 @@ TEST_F(M_Pagaments, the_total_of_a_document_is_the_sum_of_its_payments_refunds_t
   EXPECT_EQ(Total_Pagaments_Document("A", 7), 17.5);
 }
 
+TEST_F(M_Pagaments, are_asked_for_by_company_document_and_number) {
+  const std::string d = " FROM PAGAMENTS WHERE EMPRESA_PAG = 'B00000000' AND DOCUMENT_PAG = 'A' AND NUMALB_PAG = 7";
+  EXPECT_EQ(SQL_Pagaments_Document("A", 7),
+            "SELECT ID_PAG, DOCUMENT_PAG, NUMALB_PAG, EMPRESA_PAG, CLIENT_PAG, PAGAMENT_PAG, DATA_PAG, IMPORT_PAG" + d +
+                " ORDER BY DATA_PAG, ID_PAG");
+  EXPECT_EQ(SQL_Total_Pagaments("A", 7), "SELECT SUM(IMPORT_PAG) AS IMPORT" + d);
+}
+
 TEST_F(M_Pagaments, they_are_shown_by_date_and_within_a_date_by_code) {
   for (const char* data : {"#3/2/2026#", "#3/1/2026#", "#3/1/2026#"})
     Executar("INSERT INTO PAGAMENTS (DOCUMENT_PAG, NUMALB_PAG, EMPRESA_PAG, DATA_PAG) VALUES('A', 7, '" +
