@@ -1,5 +1,7 @@
 #include "payments/M_Flags.h"
 
+#include "payments/Decisions_Flag.h"
+
 #include "tests/regles/Base.h"
 
 // Orders 1 and 2, notes 1 and 2, invoice 9; links are added by each test.
@@ -87,6 +89,7 @@ TEST_F(M_Flags, a_line_of_no_order_is_no_link) {
 TEST_F(M_Flags, a_document_that_is_there_no_more_changes_nothing) {
   Propagar_Flag_Pagaments("F", 77);
   EXPECT_EQ(Files("SELECT * FROM FACTURACAP WHERE PAGAMENT_FC = -1"), 0);
+  EXPECT_FALSE(Flag_Pagament("F", 77));
 }
 
 TEST_F(M_Flags, only_papers_of_the_company_count) {
@@ -185,4 +188,53 @@ TEST_F(M_Flags, a_wide_chain_costs_as_many_trips_as_a_narrow_one) {
   }
   viatges();
   EXPECT_EQ(viatges(), estreta);
+}
+
+// Every combination of answers has one row and no more: what it writes, or what it raises. An answer is given in the
+// order of the table: y all of them, n none or not one, d they disagree.
+class Decisions : public testing::Test {
+ protected:
+  static std::string Decidir(std::span<const Decisio_Flag> taula, const std::string& respostes) {
+    const auto conjunt = [&](std::size_t i) {
+      return respostes[i] == 'y' ? resposta::si : respostes[i] == 'n' ? resposta::no : resposta::discrepen;
+    };
+    std::vector<std::string> fets;
+    for (const Decisio_Flag& fila : taula) {
+      if ((fila.primer & conjunt(0)) == 0 || (fila.segon & conjunt(1)) == 0 || (fila.tercer & conjunt(2)) == 0)
+        continue;
+      fets.emplace_back(!fila.flag ? fila.error : *fila.flag ? "on" : "off");
+    }
+    return fets.size() == 1 ? fets[0] : std::to_string(fets.size()) + " rows";
+  }
+  static void Exigir(std::span<const Decisio_Flag> taula,
+                     const std::vector<std::pair<std::vector<std::string>, std::string>>& esperats) {
+    for (const auto& [combinacions, resultat] : esperats)
+      for (const std::string& respostes : combinacions) EXPECT_EQ(Decidir(taula, respostes), resultat) << respostes;
+  }
+};
+
+TEST_F(Decisions, of_an_order_go_by_its_invoices_its_notes_and_its_payments) {
+  Exigir(decisions::comanda,
+         {{{"dyy", "dyn", "dny", "dnn", "ddy", "ddn"}, "Error: Hi ha factures marcades amb pagaments i altres no!"},
+          {{"yyy", "yny", "ydy", "nyy"}, "Error: La comanda té pagaments i no en pot tenir!"},
+          {{"yyn", "ynn", "ydn", "nyn"}, "off"},
+          {{"ndy", "ndn"}, "Error: Hi ha albarans marcats amb pagaments i altres no!"},
+          {{"nny", "nnn"}, "on"}});
+}
+
+TEST_F(Decisions, of_a_note_go_by_its_invoice_its_orders_and_its_own_flag) {
+  Exigir(decisions::albara, {{{"yyy", "yny", "ydy", "nyy"}, "Error: l'albarà té pagaments i no en pot tenir!"},
+                             {{"yyn", "ynn", "ydn", "nyn"}, "off"},
+                             {{"nny", "nnn"}, "on"},
+                             {{"ndy", "ndn"}, "Error: hi ha comandes amb pagaments i altres no!"}});
+}
+
+TEST_F(Decisions, of_an_invoice_go_by_its_own_flag_its_notes_and_their_orders) {
+  Exigir(decisions::factura,
+         {{{"yyy", "yyn", "yyd"}, "Error: hi ha albarans amb pagaments!"},
+          {{"ydy", "ydn", "ydd", "ndy", "ndn", "ndd"}, "Error: hi ha albarans amb pagaments i altres no!"},
+          {{"yny", "nyy"}, "Error: hi ha comandes amb pagaments!"},
+          {{"ynd", "nyd", "nnd"}, "Error: hi ha comandes amb pagaments i altres no!"},
+          {{"ynn", "nnn"}, "on"},
+          {{"nyn", "nny"}, "off"}});
 }
