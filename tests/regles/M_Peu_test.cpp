@@ -136,6 +136,39 @@ TEST_F(M_Peu, without_surcharge_new_rows_take_none) {
   EXPECT_EQ(Camp("PORC_RE_AP", 21), 0);
 }
 
+// The same steps on the tables of every kind that has a foot; proposals and purchase notes are never closed documents.
+TEST_F(M_Peu, every_kind_has_its_own_foot_and_head) {
+  for (const Tipus_Document* tipus : Tipus_Registrats()) {
+    if (tipus->peu.nom.empty()) continue;
+    SCOPED_TRACE(tipus->formulari);
+    const std::string claus = tipus->numero_es_text ? "'3', 'B00000000'" : "3, 'B00000000'";
+    const auto posar = [&](const Taula_Document& taula, const std::string& columnes, const std::string& valors) {
+      Executar("INSERT INTO " + std::string(taula.nom) + " (" + taula.Columna("NUMALB") + ", " +
+               taula.Columna("EMPRESA") + columnes + ") VALUES(" + claus + valors + ")");
+    };
+    const auto linia = [&](int numero, int porc_iva) {
+      posar(tipus->lin,
+            ", " + tipus->lin.Columna("LIN") + ", " + tipus->lin.Columna("PORC_IVA") + ", " +
+                tipus->lin.Columna("PORC_RE") + ", " + tipus->lin.Columna("IMPORT_NET"),
+            ", " + std::to_string(numero) + ", " + std::to_string(porc_iva) + ", 0, 100");
+    };
+    posar(tipus->cap, "", "");
+    linia(1, 21);
+    linia(2, 10);
+    const Valor numero = tipus->numero_es_text ? Valor("3") : Valor(3);
+    obert.re = true;
+    Calcular_Peu(*tipus, numero, empresa_prova, obert);
+    EXPECT_EQ(obert.import, 237.6);
+    EXPECT_EQ(Total_Peu(*tipus, numero, empresa_prova), 237.6);
+    EXPECT_EQ(Files(SQL_Peu(*tipus, numero, empresa_prova)), 2);
+    const std::string total = "SELECT " + tipus->cap.Columna("IMPORT") + " FROM " + std::string(tipus->cap.nom);
+    EXPECT_EQ(Numero(total + Condicio_Document(*tipus, tipus->cap, numero, empresa_prova)), 0);
+    Buidar_Peu(*tipus, numero, empresa_prova);
+    Calcular_Peu_Document(*tipus, numero, empresa_prova, 0);
+    EXPECT_EQ(Numero(total + Condicio_Document(*tipus, tipus->cap, numero, empresa_prova)), 231);
+  }
+}
+
 TEST_F(M_Peu, a_missing_head_is_nothing_but_for_an_invoice) {
   EXPECT_NO_THROW(Calcular_Peu_Document(tipus_albara, 99, empresa_prova, 0));
   EXPECT_EQ(Error_De([] { Calcular_Peu_Document(tipus_factura, 99, empresa_prova, 0); }).Numero(), errors::general);
