@@ -149,6 +149,22 @@ TEST_F(M_Consultes, an_article_brings_a_join) {
       "EMPRESA_AC = 'B00000000' AND ARTICLE_AL LIKE '%a1%'");
 }
 
+TEST_F(M_Consultes, the_filters_on_the_lines_stand_before_those_of_the_head_and_the_pending_ones_last) {
+  sessio.Nomes_Pendents = true;
+  EXPECT_EQ(Consulta_Albarans({{"TXT_ARTICLE", {.text = "A%1"}},
+                               {"TXT_ARTICLE_DESC", {.text = "ports"}},
+                               {"TXT_ALBARA", {.text = "1", .text_y = "9"}},
+                               {"DT_DATA", {.data = Data_Hora{2011, 2, 1}, .data_y = Data_Hora{2011, 3, 5}}},
+                               {"CMB_CLIENT", {.text = "C1"}},
+                               {"TXT_IMPORT", {.text = "10", .text_y = "20"}}},
+                              true),
+            "SELECT DISTINCT NUMALB_AC, DATA_AC, CLIENT_AC, CLIENT_DESC_AC, OBSR_AC, IMPORT_AC, IVA_AC, RE_AC, "
+            "ESTAT_AC, NUMFAC_AC FROM ALBARACAP, ALBARALIN WHERE ALBARACAP.NUMALB_AC = ALBARALIN.NUMALB_AL AND "
+            "ALBARACAP.EMPRESA_AC = ALBARALIN.EMPRESA_AL AND EMPRESA_AC = 'B00000000' AND ARTICLE_AL LIKE '%A%1%' AND "
+            "DESCRIPCIO_AL LIKE '%ports%' AND NUMALB_AC BETWEEN 1 AND 9 AND DATA_AC BETWEEN #2/1/2011# AND #3/5/2011# "
+            "AND CLIENT_AC = 'C1' AND IMPORT_AC BETWEEN 10 AND 20 AND ESTAT_AC = 0");
+}
+
 TEST_F(M_Consultes, a_percent_sign_or_nothing_as_article_makes_no_join) {
   EXPECT_EQ(Consulta_Albarans({{"TXT_ARTICLE", {.text = "%"}}, {"TXT_ARTICLE_DESC", {.text = ""}}}, false), curta);
 }
