@@ -1,8 +1,10 @@
-// Conditions on days, for whoever writes a statement from what a form holds.
+// Conditions for whoever writes a statement: on days, and on lists of numbers.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/dades/Valor.h"
 
@@ -13,3 +15,6 @@ std::string Condicio_Data(const std::optional<Data_Hora>& des_de, const std::opt
 // 29 February comes on 1 March of a short year. Nothing without either day.
 std::string Condicio_Aniversari(const std::optional<Data_Hora>& des_de, const std::optional<Data_Hora>& fins_a,
                                 const std::string& camp);
+// Numbers for IN(...), at least one; each between `cometa`. The last one is repeated up to a power of two, so that
+// statements have few shapes.
+std::string Llista_De_Numeros(const std::vector<std::int64_t>& numeros, const char* cometa = "");

@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "core/formularis/Aparenca.h"
+#include "core/formularis/Formularis_Oberts.h"
 #include "documents/F_Cerca_Document.h"
 #include "documents/F_Obrir_Document.h"
 
@@ -15,9 +16,13 @@ void Llista_Documents::Muntar() {
   Llista::Muntar(graella, descripcio_.columnes);
   Muntar_Botons(boto(descripcio_.boto_nou), boto(descripcio_.boto_esborrar), boto("B_Exit"));
   for (const auto& [nom, formulari] : descripcio_.botons) {
-    Dibuixar(Control_De_Nom<QPushButton>(QString::fromUtf16(nom)), Dibuix::Calcular);
-    Boto_De_Pantalla(QString::fromUtf16(nom), QString::fromUtf16(formulari));
+    const QString pantalla = QString::fromUtf16(formulari);
+    auto* control = Control_De_Nom<QPushButton>(QString::fromUtf16(nom));
+    Dibuixar(control, Dibuix::Calcular);
+    Boto_De_Pantalla(control->objectName(), pantalla);
+    connect(control, &QPushButton::clicked, this, [pantalla] { Obrir(pantalla); });
   }
+  if (descripcio_.seleccio_multiple) graella->Seleccio_Multiple(true);
   if (descripcio_.columna_ok != nullptr) graella->Files_OK(descripcio_.columna_ok);
 }
 

@@ -1,11 +1,11 @@
 #include "payments/M_Cadena.h"
 
 #include <algorithm>
-#include <bit>
 #include <functional>
 #include <string>
 #include <utility>
 
+#include "core/M_Condicions.h"
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Numeros.h"
 
@@ -37,22 +37,12 @@ constexpr Relacio relacions[] = {
 
 constexpr std::size_t maxim_de_numeros = 512;  // in one statement
 
-// A list of numbers for IN, its last one repeated up to a power of two: statements then have few shapes.
-std::string Llista_De(const std::vector<std::int64_t>& numeros, const char* cometa) {
-  std::string llista;
-  for (std::size_t i = 0; i < std::bit_ceil(numeros.size()); ++i) {
-    llista +=
-        (i == 0 ? "" : ", ") + std::string(cometa) + std::to_string(numeros[std::min(i, numeros.size() - 1)]) + cometa;
-  }
-  return llista;
-}
-
 std::string Omplir(std::string sentencia, const std::vector<std::int64_t>& numeros) {
   const auto posar = [&](const char* marca, const std::string& valor) {
     if (const auto lloc = sentencia.find(marca); lloc != std::string::npos) sentencia.replace(lloc, 3, valor);
   };
-  posar("{n}", Llista_De(numeros, ""));
-  posar("{t}", Llista_De(numeros, "'"));
+  posar("{n}", Llista_De_Numeros(numeros));
+  posar("{t}", Llista_De_Numeros(numeros, "'"));
   posar("{e}", Text_SQL(sessio.Empresa_Actual));
   return sentencia;
 }

@@ -6,6 +6,7 @@
 #include <span>
 #include <utility>
 
+#include "core/M_Condicions.h"
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Transaccio.h"
 #include "payments/Decisions_Flag.h"
@@ -20,24 +21,29 @@ std::string Nom_Columna(const Nivell_Pagable& nivell, const char* paper) {
   return std::string(paper) + "_" + std::string(nivell.sufix);
 }
 
-std::string Condicio(const Nivell_Pagable& nivell, std::int64_t numero) {
-  return " WHERE " + Nom_Columna(nivell, "NUMALB") + " = " + std::to_string(numero) + " AND " +
-         Nom_Columna(nivell, "EMPRESA") + " = " + Text_SQL(sessio.Empresa_Actual);
+std::string De_L_Empresa(const Nivell_Pagable& nivell) {
+  return Nom_Columna(nivell, "EMPRESA") + " = " + Text_SQL(sessio.Empresa_Actual);
 }
 
-void Posar_A_La_Capcalera(const Document_Pagable& document, bool flag) {
-  const Nivell_Pagable& nivell = Nivell_De(document.lletra);
+std::string Condicio(const Nivell_Pagable& nivell, std::int64_t numero) {
+  return " WHERE " + Nom_Columna(nivell, "NUMALB") + " = " + std::to_string(numero) + " AND " + De_L_Empresa(nivell);
+}
+
+// The flag of the heads of one level, in one statement.
+void Posar_A_Les_Capcaleres(char lletra, bool flag, const std::vector<std::int64_t>& numeros) {
+  const Nivell_Pagable& nivell = Nivell_De(lletra);
   sessio.Connexio_Comuna.Execute_Despres("UPDATE " + std::string(nivell.taula) + " SET " +
-                                         Nom_Columna(nivell, "PAGAMENT") + " = " + (flag ? "-1" : "0") +
-                                         Condicio(nivell, document.numero));
+                                         Nom_Columna(nivell, "PAGAMENT") + " = " + (flag ? "-1" : "0") + " WHERE " +
+                                         Nom_Columna(nivell, "NUMALB") + " IN (" + Llista_De_Numeros(numeros) +
+                                         ") AND " + De_L_Empresa(nivell));
 }
 
 Document_Obert* Formulari_De(const Document_Pagable& document) {
   return sessio.pantalla->Document(Nivell_De(document.lletra).formulari);
 }
 
-// Flags of a chain, written through the form of that kind when it is loaded, on the document that it shows. A form
-// saves its head once, at the end.
+// Flags of a chain, written through the form of that kind when it is loaded, on the document that it shows. All of them
+// are written at the end: the head of a form once, and the others a level at a time.
 class Escriptor {
  public:
   explicit Escriptor(Cadena& cadena) : cadena_(cadena) {}
@@ -45,7 +51,7 @@ class Escriptor {
   void Posar(const Document_Pagable& document, bool flag) {
     Document_Obert* obert = Formulari_De(document);
     if (obert == nullptr) {
-      if (cadena_.Apuntar_Flag(document, flag)) Posar_A_La_Capcalera(document, flag);
+      if (cadena_.Apuntar_Flag(document, flag)) canviats_.insert(document);
       return;
     }
     obert->Posar_Pagament(flag);
@@ -58,13 +64,18 @@ class Escriptor {
   void Desar() {
     for (const auto& [document, canviat] : std::exchange(mostrats_, {})) {
       if (Document_Obert* obert = Formulari_De(document)) obert->Desar_Capcalera();
-      if (canviat) Posar_A_La_Capcalera(document, cadena_.Flag(document));
+      if (canviat) canviats_.insert(document);
     }
+    std::map<std::pair<char, bool>, std::vector<std::int64_t>> per_nivell;
+    for (const Document_Pagable& document : std::exchange(canviats_, {}))
+      per_nivell[{document.lletra, cadena_.Flag(document)}].push_back(document.numero);
+    for (const auto& [quins, numeros] : per_nivell) Posar_A_Les_Capcaleres(quins.first, quins.second, numeros);
   }
 
  private:
   Cadena& cadena_;
   std::map<Document_Pagable, bool> mostrats_;
+  std::set<Document_Pagable> canviats_;
 };
 
 using Documents = std::vector<Document_Pagable>;
@@ -255,7 +266,7 @@ bool Flag_Pagament(const std::string& document, std::int64_t numalb) {
 void Posar_Flag_Pagament(const std::string& document, std::int64_t numalb, bool flag) {
   const Document_Pagable quin{document.at(0), numalb};
   Document_Obert* obert = Formulari_De(quin);
-  if (obert == nullptr) return Posar_A_La_Capcalera(quin, flag);
+  if (obert == nullptr) return Posar_A_Les_Capcaleres(quin.lletra, flag, {quin.numero});
   obert->Posar_Pagament(flag);
   obert->Desar_Capcalera();
 }

@@ -37,6 +37,7 @@ const Descripcio_Llista_Documents& Llista_D_Albarans() {
       .boto_esborrar = "B_EsborrarAlbara",
       .columna_ok = "ESTAT_AC",
       .botons = {{u"B_FACT", u"F_FACTURAR"}},
+      .seleccio_multiple = true,
   };
   return llista;
 }

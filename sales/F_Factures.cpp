@@ -6,6 +6,7 @@
 #include "documents/F_Editor_Document.h"
 #include "documents/F_Llista_Documents.h"
 #include "output/Imprimir.h"
+#include "sales/F_Facturar.h"
 #include "sales/M_Consultes_Venda.h"
 #include "sales/M_Factures.h"
 #include "sales/M_Tipus_Venda.h"
@@ -66,4 +67,5 @@ void Registrar_Formularis_Factura() {
   Registrar_Formulari(QStringLiteral("F_FACTURESM"),
                       Fabrica_De<Llista_Documents, Ui::F_FacturesM>(Llista_De_Factures()));
   Registrar_Formulari(QStringLiteral("F_FACTURA"), Fabrica_De<Editor_Document, Ui::F_Factura>(Editor()));
+  Registrar_Formulari(QStringLiteral("F_FACTURAR"), [] { return new F_Facturar; });
 }

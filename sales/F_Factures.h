@@ -1,4 +1,4 @@
-// The screens of invoices: search, list, editor.
+// The screens of invoices: search, list, editor, and the invoicing run.
 #pragma once
 
 void Registrar_Formularis_Factura();

@@ -120,6 +120,11 @@ bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa) {
   return Bloquejat_Per_Linies(tipus_albara, numero, empresa);
 }
 
+Data_Hora Data_Maxima_Albarans(const std::string& albarans) {
+  const Recordset rs("SELECT MAX(DATA_AC) AS DATA FROM (" + albarans + ")", sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 && rs["DATA"].Es_Data() ? rs["DATA"].Data() : Avui();
+}
+
 void Afegir_Linia_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
                          Document_Obert& obert) {
   Afegir_Linia(tipus_albara, cap, linia, linies, obert);

@@ -20,6 +20,9 @@ void Esborrar_Albara(std::int64_t numero, const std::string& empresa);
 // True when the note is invoiced or any of its lines serves an order.
 bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa);
 
+// The latest date of the notes of a statement; today when there is none.
+Data_Hora Data_Maxima_Albarans(const std::string& albarans);
+
 // Writes a line on the form's line recordset: row, link and served units of the order, foot, stock and journal.
 // Call it inside a transaction that has not written yet: it may show the warning of the minimum before it writes.
 // Raises 1010 when the stock could not be posted (already shown), 6, 13 or the engine's.

@@ -23,6 +23,22 @@ bool Factura_Te_Albarans(std::int64_t numero, const std::string& empresa);
 // How many delivery notes name that number, of whatever company.
 std::int64_t Albarans_De_Factura(std::int64_t numero);
 
+// The invoicing run: delivery notes of the list become one invoice. `albarans` is always the statement of the list with
+// its long fields and the selection, without order.
+// " AND NUMALB_AC IN(...)", which the statement of the list ends with; nothing without numbers: all of the list.
+std::string Llista_Albarans_Seleccionats(const std::vector<std::int64_t>& numeros);
+struct Facturacio {
+  std::string albarans;
+  std::string numero;  // as it was typed; "PROFORMA" makes the provisional invoice 0, which touches no note
+  Valor data = {};     // null: none
+};
+// Asks first about notes that are invoiced already, and again when that changes meanwhile. One transaction: head, the
+// lines of each note behind a heading, foot, the marks of the notes, flags. False when nothing was made: the user said
+// no, or there are no notes. Raises 1005 when the notes differ in their tax conditions, 13 and 6 for a number that is
+// none, 6 beyond line 32767, the engine's when the number is taken. Nothing is left of a run that raises.
+bool Facturar(const Facturacio& facturacio);
+inline constexpr const char* proforma = "PROFORMA";
+
 // Asks and deletes a whole invoice: its notes are open again, and no stock is moved. Refused when it holds payments.
 void Esborrar_Factura(std::int64_t numero, const std::string& empresa);
 

@@ -127,6 +127,13 @@ const Cami camins[] = {
        Doble_Clic("F_FACTURESM", 0);
      },
      false},
+    {"F_FACTURAR",
+     [] {
+       Obrir(QStringLiteral("F_ALBARANSS"));
+       Obrir(QStringLiteral("F_ALBARANSM"));
+       Obrir(QStringLiteral("F_FACTURAR"));
+     },
+     true},
     {"F_PAGDOC",
      [] {
        sessio.Pag_Document = "A";

@@ -37,8 +37,9 @@ QStringList Controls_Amb_Titol(const QString& ui) {
 
 // Three dots in any language, a picture, what the code writes.
 bool Sense_Paraules(const QString& nom) {
-  static const QStringList noms = {QStringLiteral("B_CLIENT"), QStringLiteral("B_ARTICLESM"),
-                                   QStringLiteral("B_COMANDES"), QStringLiteral("P_Logo"), QStringLiteral("L_EQUIP")};
+  static const QStringList noms = {QStringLiteral("B_CLIENT"),   QStringLiteral("B_ARTICLESM"),
+                                   QStringLiteral("B_COMANDES"), QStringLiteral("P_Logo"),
+                                   QStringLiteral("L_EQUIP"),    QStringLiteral("NO_ALBARANS")};
   return noms.contains(nom);
 }
 
