@@ -1,5 +1,7 @@
 #include "masters/F_ArticlesMC.h"
 
+#include <utility>
+
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Dialecte.h"
 #include "core/formularis/Formularis_Oberts.h"
@@ -28,16 +30,21 @@ F_ArticlesMC::F_ArticlesMC()
 
 F_ArticlesMC::~F_ArticlesMC() = default;
 
-// Empty, until it comes to the front with the criteria.
 std::string F_ArticlesMC::Sentencia() const {
-  return SQL_Articles({.codi = cap_article, .descripcio = cap_article});
+  return SQL_Articles(static_cast<F_ArticlesSelC*>(Carregar_Amagat(QStringLiteral("F_ARTICLESSELC")))->Criteris());
 }
 
-// What the search form filters stays as it is.
+void F_ArticlesMC::Carregar() {
+  Llista_Mestra::Carregar();
+  acabada_de_llegir_ = true;
+}
+
+// Read again each time that it comes to the front, by the criteria of the moment. What the search form filters stays as
+// it is.
 void F_ArticlesMC::Activar() {
+  if (std::exchange(acabada_de_llegir_, false)) return;
   if (Formulari_De_Nom(QStringLiteral("F_CERCA")) != nullptr) return;
-  const auto* cerca = static_cast<F_ArticlesSelC*>(Carregar_Amagat(QStringLiteral("F_ARTICLESSELC")));
-  const std::string sentencia = SQL_Articles(cerca->Criteris());
+  const std::string sentencia = Sentencia();
   // Under the same criteria the order that a header has given stays.
   const bool els_mateixos = Sense_Ordre(rs_.Source()) == Sense_Ordre(sentencia);
   Requerir_Alla_Mateix(rs_, els_mateixos ? std::string() : sentencia);

@@ -14,6 +14,7 @@ class F_ArticlesMC : public Llista_Mestra {
  public:
   F_ArticlesMC();
   ~F_ArticlesMC() override;
+  void Carregar() override;
   void Activar() override;
 
  protected:
@@ -22,4 +23,5 @@ class F_ArticlesMC : public Llista_Mestra {
 
  private:
   std::unique_ptr<Ui::F_ArticlesMC> ui_;
+  bool acabada_de_llegir_ = false;
 };

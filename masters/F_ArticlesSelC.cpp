@@ -1,6 +1,7 @@
 #include "masters/F_ArticlesSelC.h"
 
 #include "core/controls/Controls.h"
+#include "core/dades/Transaccio.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Formularis_Oberts.h"
 #include "ui_F_ArticlesSelC.h"
@@ -41,11 +42,15 @@ F_ArticlesSelC::F_ArticlesSelC()
 F_ArticlesSelC::~F_ArticlesSelC() = default;
 
 void F_ArticlesSelC::Carregar() {
+  Connexio& base = sessio.Connexio_Comuna;
+  Transaccio viatge(base);  // what is asked for in one transaction travels together
+  for (const Combo& combo : combos) base.Demanar(combo.sentencia);
   for (const Combo& combo : combos) {
     Combo_Codi* criteri = (*ui_).*combo.combo;
     criteri->Text_Estrany_Es_Cap();
-    criteri->Omplir(combo.sentencia, sessio.Connexio_Comuna, combo.codi, combo.descripcio);
+    criteri->Omplir(combo.sentencia, base, combo.codi, combo.descripcio);
   }
+  viatge.Confirmar();
   ui_->CMB_FAMILIA->setFocus();
 }
 
