@@ -84,6 +84,11 @@ F_Cerca::F_Cerca() : Formulari(QStringLiteral("F_Cerca")), ui_(std::make_unique<
 
 F_Cerca::~F_Cerca() = default;
 
+Graella* F_Cerca::Graella_Llista() {
+  Formulari* llista = Llista_Cercada();
+  return llista == nullptr ? nullptr : llista->Graella_Llista();
+}
+
 void F_Cerca::Omplir_Camps() {
   const QString triat = ui_->CMB_CAMPS->currentText();
   ui_->CMB_CAMPS->clear();

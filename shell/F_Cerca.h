@@ -19,6 +19,7 @@ class F_Cerca : public Formulari {
   ~F_Cerca() override;
   void Descarregar() override;
   bool Sempre_A_Dalt() const override { return true; }
+  Graella* Graella_Llista() override;  // of the list that is searched: its rows are those to be counted
   // The names of the text fields of Recordset_Cerca; the field chosen before stays chosen.
   void Omplir_Camps();
 

@@ -1,5 +1,6 @@
 // F_Cerca over lists of every name.
 #include <QComboBox>
+#include <QLabel>
 #include <QMdiArea>
 
 #include "core/formularis/Pares.h"
@@ -81,4 +82,18 @@ TEST_F(Cerca, A_list_without_text_fields_has_nothing_to_choose_and_says_so) {
   EXPECT_EQ(installacio.pantalla.caixes[0].estil, estil::critic);
   EXPECT_NE(installacio.pantalla.caixes[0].text.find(" - "), std::string::npos);
   EXPECT_EQ(llista->Graella_Llista()->Files(), 4);
+}
+
+TEST_F(Cerca, The_rows_of_the_list_are_counted_while_the_search_is_in_front) {
+  const auto compte = [this] {
+    Assentar();
+    return principal.findChild<QLabel*>(QStringLiteral("L_FILES"))->text();
+  };
+  Obrir_Cerca(Obrir_Llista("F_CPM"));
+  EXPECT_EQ(compte(), QStringLiteral("3 files"));
+  Buscar("7001");
+  principal.Portar_Al_Davant(qobject_cast<QMdiSubWindow*>(Obert("F_CERCA")->parentWidget()));
+  EXPECT_EQ(compte(), QStringLiteral("1 fila"));
+  Tancar("F_CERCA");
+  EXPECT_EQ(compte(), QStringLiteral("3 files"));
 }
