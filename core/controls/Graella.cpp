@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QLocale>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <utility>
 
@@ -65,9 +66,13 @@ void Graella::Columnes(const std::vector<Columna_Graella>& columnes) {
 
 void Graella::Lligar(Recordset* rs) {
   model_->Lligar(rs);
-  for (int columna = 0; columna < model_->columnCount(); ++columna) {
-    if (model_->Columnes()[static_cast<std::size_t>(columna)].opcional)
-      setColumnHidden(columna, !model_->Hi_Es(columna));
+  {
+    // A column that comes back takes the width that it was given, and not the one that it was hidden with.
+    const QScopedValueRollback guarda(omplint_, true);
+    for (int columna = 0; columna < model_->columnCount(); ++columna) {
+      if (model_->Columnes()[static_cast<std::size_t>(columna)].opcional)
+        setColumnHidden(columna, !model_->Hi_Es(columna));
+    }
   }
   Omplir_Amplada();
   Mostrar_Ordre();
@@ -167,8 +172,8 @@ Valor Graella::Valor_Actual(const char* camp) const {
 
 // A column of its own width stays so under another title.
 void Graella::Titol_Columna(int index, const QString& titol) {
-  const bool visible = index >= 0 && index < model_->columnCount() && !isColumnHidden(index);
-  const bool propia = visible && Amplada_Donada(index) == Amplada_Propia(index);
+  const bool en_te = index >= 0 && index < model_->columnCount() && Amplada_Donada(index) > 0;
+  const bool propia = en_te && Amplada_Donada(index) == Amplada_Propia(index);
   model_->Titol(index, titol);
   if (propia) Canviada_D_Amplada(index, Amplada_Propia(index));
 }

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QMdiArea>
 
+#include "core/controls/Graella.h"
 #include "tests/pantalles/Formularis_De_Prova.h"
 
 namespace {
@@ -61,6 +62,21 @@ TEST_F(Memoria, A_maximized_window_does_not_change_what_is_remembered) {
 TEST_F(Memoria, A_window_of_its_own_size_takes_no_room) {
   Finestra();
   Tancar("F_CLIENTSM");
+  EXPECT_FALSE(QFile::exists(Fitxer()));
+}
+
+TEST_F(Memoria, A_column_that_is_not_shown_keeps_its_own_width_under_another_title) {
+  Registrar_Llista("F_CPM", "SELECT CP_CP FROM CP",
+                   {{"CP_CP", 1500, "CP"}, {.camp = "LOCALITAT_CP", .amplada = 900, .titol = "L", .opcional = true}});
+  auto* llista = Obrir_I_Tenir<Llista_De_Prova>("F_CPM");
+  Graella* graella = llista->Graella_Llista();
+  ASSERT_TRUE(graella->isColumnHidden(1));
+  graella->Titol_Columna(1, QStringLiteral("Població del client, tal com la diu el codi postal"));
+  Recordset amb_localitat("SELECT CP_CP, LOCALITAT_CP FROM CP", sessio.Connexio_Comuna);
+  graella->Lligar(&amb_localitat);
+  ASSERT_FALSE(graella->isColumnHidden(1));
+  EXPECT_GT(graella->Amplada_Donada(1), 200);
+  Tancar("F_CPM");
   EXPECT_FALSE(QFile::exists(Fitxer()));
 }
 
