@@ -14,6 +14,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/dades/Registre_Errors.h"
+#include "core/dades/Text.h"
 #include "schema/Definicions.h"
 
 namespace fs = std::filesystem;
@@ -43,13 +44,13 @@ std::string Cami_Unic(const std::string& cami) {
   return unic.has_filename() ? unic.string() : unic.parent_path().string();
 }
 
-// Eight digits that tell a folder from others (FNV-1a).
-std::string Marca_De_Carpeta(const std::string& carpeta) {
+// Eight digits that tell a text from others (FNV-1a).
+std::string Marca_De(const std::string& text) {
   std::uint32_t marca = 2166136261U;
-  for (const char c : Cami_Unic(carpeta)) marca = (marca ^ static_cast<unsigned char>(c)) * 16777619U;
-  std::array<char, 9> text{};
-  std::snprintf(text.data(), text.size(), "%08x", marca);
-  return text.data();
+  for (const char c : text) marca = (marca ^ static_cast<unsigned char>(c)) * 16777619U;
+  std::array<char, 9> xifres{};
+  std::snprintf(xifres.data(), xifres.size(), "%08x", marca);
+  return xifres.data();
 }
 
 // The first item of a text: up to its closing quote, or up to a comma or the end of the line.
@@ -74,14 +75,21 @@ void Fixar_Directoris() {
   sessio.Dir_Temp = sessio.Dir_Dades + "/Temp/";
 }
 
+std::string Nom_De_Terminal(const std::string& equip, const std::string& compte, const std::string& casa) {
+  std::string nom = equip + "/" + compte;
+  std::replace(nom.begin(), nom.end(), '\'', '_');  // it stands in statements
+  const std::string carpeta = Cami_Unic(sessio.Dir_Dades);
+  const bool habitual = !casa.empty() && carpeta == Cami_Unic(casa + dades_en_una_casa + "/brollador");
+  if (Plegar(compte) != compte) return nom + "/" + Marca_De(compte + "/" + carpeta);
+  return habitual ? nom : nom + "/" + Marca_De(carpeta);
+}
+
 std::string Nom_Equip() {
   char equip[256] = {};
   gethostname(equip, sizeof equip - 1);
   const passwd* usuari = getpwuid(geteuid());
-  std::string nom = std::string(equip) + "/" + (usuari ? usuari->pw_name : std::to_string(geteuid()));
-  std::replace(nom.begin(), nom.end(), '\'', '_');  // it stands in statements
-  const std::string habitual = usuari ? std::string(usuari->pw_dir) + dades_en_una_casa + "/brollador" : std::string();
-  return Cami_Unic(sessio.Dir_Dades) == Cami_Unic(habitual) ? nom : nom + "/" + Marca_De_Carpeta(sessio.Dir_Dades);
+  return usuari ? Nom_De_Terminal(equip, usuari->pw_name, usuari->pw_dir)
+                : Nom_De_Terminal(equip, std::to_string(geteuid()), {});
 }
 
 void Llegir_Ini() {

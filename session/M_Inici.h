@@ -6,9 +6,11 @@
 // Dir_Dades and what hangs from it. The folder is the user's data folder of the desktop standard.
 void Fixar_Directoris();
 // The name of this terminal in LOCKS: computer, "/", account; behind another "/" the mark of its data folder
-// (Dir_Dades), where that is not the account's usual one. So no two terminals that run at once share a name, and each
-// keeps its own.
+// (Dir_Dades), where that is not the account's usual one, or where the account's name has capitals, which LOCKS does
+// not tell from small letters. So no two terminals that run at once share a name, and each keeps its own.
 std::string Nom_Equip();
+// The same for an account with that home folder (empty: unknown).
+std::string Nom_De_Terminal(const std::string& equip, const std::string& compte, const std::string& casa);
 // Reads Fitxer_Ini into Fitxer_Comu: one item, with or without double quotes, cut at the first comma. Raises 53.
 void Llegir_Ini();
 // Raises unless the open shared database (VERSIO) is of this program's version; the text tells who is to be renewed.

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "core/dades/Registre_Errors.h"
+#include "core/dades/Text.h"
 
 #include "tests/regles/Base.h"
 
@@ -89,6 +90,16 @@ TEST_F(Inici, two_data_folders_of_one_account_are_two_terminals) {
   for (const auto& nom : noms) EXPECT_EQ(std::count(nom.begin(), nom.end(), '/'), 2) << nom;
   sessio.Dir_Dades = carpeta.Cami() + "/tres/../un/";
   EXPECT_TRUE(noms.contains(Nom_Equip()));
+}
+
+TEST_F(Inici, accounts_whose_names_differ_in_capitals_alone_are_two_terminals) {
+  sessio.Dir_Dades = "/home/anna/.local/share/brollador";
+  const std::string anna = Nom_De_Terminal("pc", "anna", "/home/anna");
+  EXPECT_EQ(anna, "pc/anna");
+  for (const char* casa : {"/home/Anna", "/home/anna"}) {
+    sessio.Dir_Dades = std::string(casa) + "/.local/share/brollador";
+    EXPECT_NE(Plegar(Nom_De_Terminal("pc", "Anna", casa)), anna) << casa;
+  }
 }
 
 TEST_F(Inici, errors_are_logged_in_the_data_folder) {
