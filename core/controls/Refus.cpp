@@ -57,6 +57,7 @@ class Nota : public QLabel {
     if (!isHidden()) return;
     if (Te_Mida_Propia()) abans_ = Finestra()->size();
     show();
+    if (Te_Mida_Propia()) Creixer();
   }
   void Amagar() {
     if (isHidden()) return;
@@ -69,6 +70,12 @@ class Nota : public QLabel {
   }
 
  private:
+  // By what the form cannot spare.
+  void Creixer() {
+    formulari_->layout()->activate();
+    const int falta = formulari_->minimumSizeHint().height() - formulari_->height();
+    if (falta > 0) Finestra()->resize(Finestra()->width(), Finestra()->height() + falta);
+  }
   QMdiSubWindow* Finestra() const { return qobject_cast<QMdiSubWindow*>(formulari_->parentWidget()); }
   bool Te_Mida_Propia() const { return Finestra() != nullptr && !Finestra()->isMaximized(); }
 

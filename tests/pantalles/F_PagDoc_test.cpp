@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QTest>
 
 #include "core/M_Funcions_Comuns.h"
 #include "payments/M_Flags.h"
@@ -98,6 +99,24 @@ TEST_F(Pagaments_D_Un_Document, A_row_that_is_changed_and_the_closing_walk_the_c
   Executar("UPDATE ALBARACAP SET PAGAMENT_AC = 0");
   Tancar("F_PAGDOC");
   EXPECT_TRUE(Flag_Pagament("A", 7));
+}
+
+TEST_F(Pagaments_D_Un_Document, What_is_said_of_a_refused_cell_covers_nothing) {
+  const QSize abans = form->parentWidget()->size();
+  Escriure(5, QStringLiteral("TR"));
+  const QModelIndex cella = graella->model()->index(0, 7);
+  graella->setCurrentIndex(cella);
+  static_cast<QTableView*>(graella)->edit(cella);
+  QTest::keyClicks(graella->indexWidget(cella), QStringLiteral("x"));
+  QTest::keyClick(graella->indexWidget(cella), Qt::Key_Return);
+  QTest::qWait(20);
+  const QWidget* nota = form->Cercar_Control(QStringLiteral("L_REFUS"));
+  ASSERT_TRUE(nota != nullptr && nota->isVisible());
+  for (const char* nom : {"L_PAGAMENTS_DOCPAG", "B_EsborrarPag", "L_REFUS"})
+    EXPECT_FALSE(form->Cercar_Control(QLatin1String(nom))->geometry().intersects(graella->geometry())) << nom;
+  QTest::keyClick(graella->indexWidget(cella), Qt::Key_Escape);
+  EXPECT_FALSE(nota->isVisible());
+  EXPECT_EQ(form->parentWidget()->size(), abans);
 }
 
 TEST_F(Pagaments_D_Un_Document, A_row_that_is_refused_before_it_is_written_is_given_up) {
