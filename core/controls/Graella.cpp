@@ -83,7 +83,10 @@ void Graella::Refrescar() {
   const Recordset* rs = model_->Lligat();
   const std::int64_t posicio = rs != nullptr && rs->State() ? rs->AbsolutePosition() : 0;
   model_->Refrescar();
-  if (posicio > 0) Anar_A_Fila(posicio - 1);
+  if (posicio > 0)
+    Anar_A_Fila(posicio - 1);
+  else if (model_->Permet_Canvis() && model_->Files() == 0)
+    setCurrentIndex(model_->index(0, Primera_Que_S_Escriu()));
   Q_EMIT Compte_Canviat();
 }
 

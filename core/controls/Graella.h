@@ -152,6 +152,7 @@ class Graella : public QTableView {
   QModelIndex Cella_Del_Costat(int pas) const;
   void Avancar();
   void Avancar_Fila();
+  int Primera_Que_S_Escriu() const;
   void Saltar(int pas);
   bool S_Obre_Sola(const QModelIndex& index) const;
   void Desar_I_Avisar();

@@ -166,7 +166,18 @@ void Graella::Avancar() {
 void Graella::Avancar_Fila() {
   const int fila = currentIndex().row();
   if (!Desar_Fila()) return;
-  if (fila + 1 < model_->rowCount()) setCurrentIndex(model_->index(fila + 1, Columna_Visible(false)));
+  if (fila + 1 < model_->rowCount()) setCurrentIndex(model_->index(fila + 1, Primera_Que_S_Escriu()));
+}
+
+// As they are seen; the first one of all where none is typed.
+int Graella::Primera_Que_S_Escriu() const {
+  const QHeaderView& capcalera = *horizontalHeader();
+  for (int lloc = 0; lloc < capcalera.count(); ++lloc) {
+    const int columna = capcalera.logicalIndex(lloc);
+    const bool s_escriu = !model_->Columnes()[static_cast<std::size_t>(columna)].fixa;
+    if (s_escriu && !capcalera.isSectionHidden(columna)) return columna;
+  }
+  return Columna_Visible(false);
 }
 
 // The keys of the code of a row that exists are asked for by hand.
