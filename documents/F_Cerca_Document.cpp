@@ -65,6 +65,10 @@ void Cerca_Document::Muntar() {
     connect(boto(que.boto, que.nomes_pendents ? Dibuix::Cercar : Dibuix::Llista), &QPushButton::clicked, this,
             [this, &que] { Obrir_Llista(que); });
   }
+  for (const Boto_De_Llistat& que : descripcio_.llistats) {
+    connect(boto(que.boto, Dibuix::Imprimir), &QPushButton::clicked, this,
+            [this, &que] { Guardar_Event([&] { que.imprimir(Valors()); }); });
+  }
 }
 
 void Cerca_Document::Carregar() {

@@ -17,6 +17,7 @@ struct Descripcio_Cerca {
   const std::vector<Criteri>& criteris;
   const char* primer_camp;  // where the focus stands when the form opens
   std::vector<Boto_De_Cerca> botons;
+  std::vector<Boto_De_Llistat> llistats = {};
 };
 
 class Cerca_Document : public Formulari {

@@ -22,6 +22,11 @@ void Llista_Documents::Muntar() {
     Boto_De_Pantalla(control->objectName(), pantalla);
     connect(control, &QPushButton::clicked, this, [pantalla] { Obrir(pantalla); });
   }
+  for (const Boto_De_Llistat& que : descripcio_.llistats) {
+    Dibuixar(boto(que.boto), Dibuix::Imprimir);
+    connect(boto(que.boto), &QPushButton::clicked, this,
+            [this, &que] { Guardar_Event([&] { que.imprimir(Valors_De(descripcio_.consulta.cerca)); }); });
+  }
   if (descripcio_.seleccio_multiple) graella->Seleccio_Multiple(true);
   if (descripcio_.columna_ok != nullptr) graella->Files_OK(descripcio_.columna_ok);
 }

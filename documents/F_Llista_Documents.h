@@ -18,6 +18,7 @@ struct Descripcio_Llista_Documents {
   const char* boto_esborrar;
   const char* columna_ok = nullptr;  // a row where it is set shows as OK
   std::vector<Boto_De_Documents> botons = {};
+  std::vector<Boto_De_Llistat> llistats = {};
   bool seleccio_multiple = false;  // one of them works on the rows that are selected
 };
 

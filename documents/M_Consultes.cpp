@@ -146,3 +146,42 @@ std::string Condicions(const std::vector<Criteri>& criteris, const Valors_Cerca&
   }
   return condicions;
 }
+
+namespace {
+
+// Number, date and name of each head, and sums over the rows of another of its tables.
+std::string Sumes_Per_Document(const Descripcio_Consulta& descripcio, const Taula_Document& taula,
+                               const std::string& sumes, const std::string& condicions) {
+  const Taula_Document& cap = descripcio.tipus.cap;
+  const std::string grup = cap.Columna("NUMALB") + ", " + cap.Columna("DATA") + ", " + cap.Columna("CLIENT_DESC");
+  const auto unir = [&](const char* paper) {
+    return std::string(cap.nom) + "." + cap.Columna(paper) + " = " + std::string(taula.nom) + "." +
+           taula.Columna(paper) + " AND ";
+  };
+  return "SELECT " + grup + ", " + sumes + " FROM " + std::string(cap.nom) + ", " + std::string(taula.nom) + " WHERE " +
+         unir("NUMALB") + unir("EMPRESA") + cap.Columna("EMPRESA") + " = " + Text_SQL(sessio.Empresa_Actual) +
+         condicions + " GROUP BY " + grup;
+}
+
+std::string Suma(const std::string& que, const std::string& nom) {
+  return "SUM(" + que + ") AS " + nom;
+}
+
+}  // namespace
+
+std::string Consulta_Marges(const Descripcio_Consulta& descripcio, const Valors_Cerca& valors) {
+  const Taula_Document& lin = descripcio.tipus.lin;
+  return Sumes_Per_Document(descripcio, lin,
+                            Suma(lin.Columna("COST") + " * " + lin.Columna("UNITATS"), lin.Columna("COST_NET")) + ", " +
+                                Suma(lin.Columna("IMPORT_NET"), lin.Columna("IMPORT_NET")) + ", " +
+                                Suma(lin.Columna("MARGE"), lin.Columna("MARGE")),
+                            Condicions(descripcio.criteris, valors, true) + Condicions(descripcio.criteris, valors));
+}
+
+std::string Consulta_Peus(const Descripcio_Consulta& descripcio, const Valors_Cerca& valors) {
+  const Taula_Document& peu = descripcio.tipus.peu;
+  return Sumes_Per_Document(descripcio, peu,
+                            Suma(peu.Columna("BASE"), "BASE") + ", " + Suma(peu.Columna("IVA"), "IVA") + ", " +
+                                Suma(peu.Columna("RE"), "RE") + ", " + Suma(peu.Columna("IMPORT"), "TOTAL"),
+                            Condicions(descripcio.criteris, valors));
+}

@@ -40,6 +40,12 @@ struct Valor_Criteri {
 };
 using Valors_Cerca = std::map<std::string, Valor_Criteri, std::less<>>;
 
+// A button that prints what the criteria find.
+struct Boto_De_Llistat {
+  const char* boto;
+  void (*imprimir)(const Valors_Cerca& valors);
+};
+
 // What the form shows when it is cleared: everything, of the last month.
 Valors_Cerca Valors_Per_Defecte(const std::vector<Criteri>& criteris);
 
@@ -58,5 +64,10 @@ struct Descripcio_Consulta {
 
 // Statement of the list for the current company, without order.
 std::string Consulta(const Descripcio_Consulta& descripcio, const Valors_Cerca& valors, bool llarga = false);
+// What each document that the criteria find cost, was sold for and left: the sums of its lines, those on the lines that
+// fit the criteria on lines. Whether it is pending plays no part.
+std::string Consulta_Marges(const Descripcio_Consulta& descripcio, const Valors_Cerca& valors);
+// What each document comes to by its foot: base, taxes and total. A document without foot is none of them.
+std::string Consulta_Peus(const Descripcio_Consulta& descripcio, const Valors_Cerca& valors);
 // " AND ..." for each row that is a condition, in their order: those on the lines, or the others.
 std::string Condicions(const std::vector<Criteri>& criteris, const Valors_Cerca& valors, bool de_linies = false);

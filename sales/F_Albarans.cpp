@@ -5,6 +5,7 @@
 #include "documents/F_Cerca_Document.h"
 #include "documents/F_Editor_Document.h"
 #include "documents/F_Llista_Documents.h"
+#include "output/DR_Llistat.h"
 #include "output/Imprimir.h"
 #include "sales/M_Consultes_Venda.h"
 #include "sales/M_Tipus_Venda.h"
@@ -19,6 +20,10 @@ const Descripcio_Cerca& Cerca() {
       .criteris = consulta_albarans.criteris,
       .primer_camp = "TXT_ALBARA_ENTRE",
       .botons = {{"B_Albarans", u"F_ALBARANSM"}, {"B_PENDENTS", u"F_ALBARANSM", true}},
+      .llistats = {{"B_MARGES",
+                    [](const Valors_Cerca& valors) {
+                      Imprimir_Llistat(llistat_marges_albarans, Consulta_Marges_Albarans(valors), valors);
+                    }}},
   };
   return cerca;
 }

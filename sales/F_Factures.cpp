@@ -5,6 +5,7 @@
 #include "documents/F_Cerca_Document.h"
 #include "documents/F_Editor_Document.h"
 #include "documents/F_Llista_Documents.h"
+#include "output/DR_Llistat.h"
 #include "output/Imprimir.h"
 #include "sales/F_Facturar.h"
 #include "sales/M_Consultes_Venda.h"
@@ -21,6 +22,10 @@ const Descripcio_Cerca& Cerca() {
       .criteris = consulta_factures.criteris,
       .primer_camp = "TXT_FACTURA_ENTRE",
       .botons = {{"B_Factures", u"F_FACTURESM"}},
+      .llistats = {{"B_MARGES",
+                    [](const Valors_Cerca& valors) {
+                      Imprimir_Llistat(llistat_marges_factures, Consulta_Marges_Factures(valors), valors);
+                    }}},
   };
   return cerca;
 }
@@ -36,6 +41,10 @@ const Descripcio_Llista_Documents& Llista_De_Factures() {
                    {"IMPORT_FC", 1700, "Import", true, "#,##0.00"}},
       .boto_nou = "B_NovaFactura",
       .boto_esborrar = "B_EsborrarFactura",
+      .llistats = {{"B_Llistat_Factures",
+                    [](const Valors_Cerca& valors) {
+                      Imprimir_Llistat(llistat_factures, Consulta_Llistat_Factures(valors), valors);
+                    }}},
   };
   return llista;
 }

@@ -69,3 +69,12 @@ std::string Consulta_Albarans(const Valors_Cerca& valors, bool llarga) {
 std::string Consulta_Factures(const Valors_Cerca& valors) {
   return Consulta(consulta_factures, valors);
 }
+std::string Consulta_Marges_Albarans(const Valors_Cerca& valors) {
+  return Consulta_Marges(consulta_albarans, valors);
+}
+std::string Consulta_Marges_Factures(const Valors_Cerca& valors) {
+  return Consulta_Marges(consulta_factures, valors);
+}
+std::string Consulta_Llistat_Factures(const Valors_Cerca& valors) {
+  return Consulta_Peus(consulta_factures, valors);
+}

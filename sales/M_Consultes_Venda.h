@@ -13,3 +13,8 @@ std::string Consulta_Pressupostos(const Valors_Cerca& valors);
 std::string Consulta_Comandes(const Valors_Cerca& valors);
 std::string Consulta_Albarans(const Valors_Cerca& valors, bool llarga);
 std::string Consulta_Factures(const Valors_Cerca& valors);
+
+// Statements of the listings.
+std::string Consulta_Marges_Albarans(const Valors_Cerca& valors);
+std::string Consulta_Marges_Factures(const Valors_Cerca& valors);
+std::string Consulta_Llistat_Factures(const Valors_Cerca& valors);

@@ -5,6 +5,7 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Graella.h"
+#include "output/informe/Treballs.h"
 #include "shell/Aplicacio.h"
 
 namespace {
@@ -184,6 +185,9 @@ Cada_Pantalla::Cada_Pantalla() {
     return Contestar(text, estil, titol);
   };
   Pantalla_Qt::Triador_Empresa = [](const std::string&, int) { return "B00000000"; };
+  // Whatever is printed is given up.
+  Fixar_Carpeta_Treballs(QString::fromStdString(sessio.Dir_Dades));
+  Fixar_Copies_Treballs([] { return treballs::desdit; });
   Registrar_Formularis();
   principal_.show();
   Donar_Drets();
@@ -195,6 +199,8 @@ Cada_Pantalla::~Cada_Pantalla() {
   Assentar();
   Pantalla_Qt::Contestador = nullptr;
   Pantalla_Qt::Triador_Empresa = nullptr;
+  Fixar_Carpeta_Treballs({});
+  Fixar_Copies_Treballs({});
 }
 
 void Cada_Pantalla::Assentar() {

@@ -214,3 +214,39 @@ TEST_F(M_Consultes, a_number_that_is_none_is_a_faulty_statement) {
     EXPECT_EQ(Error_De([&] { Consulta_Albarans(valors, false); }).Numero(), errors::sentencia);
   }
 }
+
+TEST_F(M_Consultes, margins_are_sums_over_the_lines_that_fit) {
+  EXPECT_EQ(
+      Consulta_Marges_Albarans({{"TXT_ARTICLE", {.text = "A1"}}, {"CMB_CLIENT", {.text = "C1"}}}),
+      "SELECT NUMALB_AC, DATA_AC, CLIENT_DESC_AC, SUM(COST_AL * UNITATS_AL) AS COST_NET_AL, SUM(IMPORT_NET_AL) AS "
+      "IMPORT_NET_AL, SUM(MARGE_AL) AS MARGE_AL FROM ALBARACAP, ALBARALIN WHERE ALBARACAP.NUMALB_AC = "
+      "ALBARALIN.NUMALB_AL AND ALBARACAP.EMPRESA_AC = ALBARALIN.EMPRESA_AL AND EMPRESA_AC = 'B00000000' AND "
+      "ARTICLE_AL LIKE '%A1%' AND CLIENT_AC = 'C1' GROUP BY NUMALB_AC, DATA_AC, CLIENT_DESC_AC");
+  EXPECT_EQ(
+      Consulta_Marges_Factures({}),
+      "SELECT NUMALB_FC, DATA_FC, CLIENT_DESC_FC, SUM(COST_FL * UNITATS_FL) AS COST_NET_FL, SUM(IMPORT_NET_FL) AS "
+      "IMPORT_NET_FL, SUM(MARGE_FL) AS MARGE_FL FROM FACTURACAP, FACTURALIN WHERE FACTURACAP.NUMALB_FC = "
+      "FACTURALIN.NUMALB_FL AND FACTURACAP.EMPRESA_FC = FACTURALIN.EMPRESA_FL AND EMPRESA_FC = 'B00000000' GROUP "
+      "BY NUMALB_FC, DATA_FC, CLIENT_DESC_FC");
+}
+
+TEST_F(M_Consultes, margins_look_at_all_notes_whatever_the_last_button_asked_for) {
+  Posar_Albara(7);
+  Executar("UPDATE ALBARACAP SET ESTAT_AC = -1");
+  Posar_Linia_Albara(7, 1, 21, 10, 12.1);
+  Posar_Linia_Albara(7, 2, 21, 20, 24.2);
+  Executar("UPDATE ALBARALIN SET UNITATS_AL = 2, COST_AL = 3");
+  sessio.Nomes_Pendents = true;
+  const Recordset rs(Consulta_Marges_Albarans({}), sessio.Connexio_Comuna);
+  ASSERT_EQ(rs.RecordCount(), 1);
+  EXPECT_EQ(rs["COST_NET_AL"].Doble(), 12);
+  EXPECT_EQ(rs["IMPORT_NET_AL"].Doble(), 30);
+}
+
+TEST_F(M_Consultes, the_book_of_invoices_adds_the_feet_and_looks_at_no_line) {
+  EXPECT_EQ(Consulta_Llistat_Factures({{"TXT_ARTICLE", {.text = "A1"}}, {"TXT_FACTURA", {.text = "1", .text_y = "9"}}}),
+            "SELECT NUMALB_FC, DATA_FC, CLIENT_DESC_FC, SUM(BASE_FP) AS BASE, SUM(IVA_FP) AS IVA, SUM(RE_FP) AS RE, "
+            "SUM(IMPORT_FP) AS TOTAL FROM FACTURACAP, FACTURAPEU WHERE FACTURACAP.NUMALB_FC = FACTURAPEU.NUMALB_FP AND "
+            "FACTURACAP.EMPRESA_FC = FACTURAPEU.EMPRESA_FP AND EMPRESA_FC = 'B00000000' AND NUMALB_FC BETWEEN 1 AND 9 "
+            "GROUP BY NUMALB_FC, DATA_FC, CLIENT_DESC_FC");
+}
