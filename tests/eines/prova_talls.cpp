@@ -1,10 +1,11 @@
 // prova_talls [--seed S] [N]
 //
-// Kills a terminal N times (100) at random moments while it adds and deletes lines of delivery notes and payments, now
-// on the real screens, now through the rules alone, which write faster. Looks after each kill whether the file is sound
-// and lines, foot, stock, journal, served units and payment flags agree. With BROLLADOR_MOTOR=postgres all of it is on
-// a server, which is killed and started again every third time, under the terminal at work. Prints the seed, what did
-// not agree, how many kills fell in the middle of a write (of a file), and `N passed, N failed`.
+// Kills a terminal N times (100) at random moments while it adds and deletes lines of delivery notes and payments, and
+// invoices notes and frees them, now on the real screens, now through the rules alone, which write faster. Looks after
+// each kill whether the file is sound and lines, foot, stock, journal, served units, payment flags and invoices agree.
+// With BROLLADOR_MOTOR=postgres all of it is on a server, which is killed and started again every third time, under the
+// terminal at work. Prints the seed, what did not agree, how many kills fell in the middle of a write (of a file), and
+// `N passed, N failed`.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -89,6 +90,8 @@ bool Es_Veu_El_Dany() {
       "UPDATE COMANDALIN SET SERVIDES_CL = 1 WHERE NUMALB_CL = 1 AND LIN_CL = 1",
       "UPDATE COMANDACAP SET PAGAMENT_CC = 0 WHERE NUMALB_CC = 1",
       "INSERT INTO PAGAMENTS (DOCUMENT_PAG, NUMALB_PAG, EMPRESA_PAG) VALUES ('A', 3, 'B00000000')",
+      "UPDATE ALBARACAP SET ESTAT_AC = -1, NUMFAC_AC = '7', PAGAMENT_AC = 0 WHERE NUMALB_AC = 101",
+      "INSERT INTO FACTURACAP (NUMALB_FC, EMPRESA_FC, PAGAMENT_FC) VALUES (8, 'B00000000', 0)",
   };
   const Empresa_De_Prova nova;
   if (!Mirar(nova.lloc).empty()) return false;

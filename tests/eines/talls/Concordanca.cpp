@@ -117,6 +117,37 @@ void Comparar_Flags(Queixes& queixes) {
   }
 }
 
+// A note is marked when its lines stand in the invoice that it names, and the other way round; the flag stands with one
+// of them.
+void Comparar_Factures(Queixes& queixes) {
+  for (int nota = primera_per_facturar; nota <= ultima_per_facturar; ++nota) {
+    const std::string numero = std::to_string(nota);
+    const Recordset rs("SELECT ESTAT_AC, NUMFAC_AC, PAGAMENT_AC FROM ALBARACAP WHERE NUMALB_AC = " + numero,
+                       sessio.Connexio_Comuna);
+    const bool marcada = rs[0].Boolea();
+    if (marcada != !rs[1].Text().empty()) queixes.push_back("note " + numero + " is marked with " + rs[1].Text());
+    if (marcada == rs[2].Boolea()) queixes.push_back("note " + numero + " has the flag, and so has its invoice");
+    const std::string encapcalament = " DESCRIPCIO_FL LIKE 'Albarán " + numero + " de %'";
+    Exigir_Iguals(queixes, "headings of note " + numero,
+                  Numero("SELECT COUNT(*) AS N FROM FACTURALIN WHERE" + encapcalament), marcada ? 1 : 0);
+    if (!marcada) continue;
+    Exigir_Iguals(
+        queixes, "headings of note " + numero + " in its invoice",
+        Numero("SELECT COUNT(*) AS N FROM FACTURALIN WHERE NUMALB_FL = " + rs[1].Text() + " AND" + encapcalament), 1);
+  }
+  for (const std::int64_t factura : Numeros("SELECT NUMALB_FC FROM FACTURACAP")) {
+    const std::string numero = std::to_string(factura);
+    const double notes_seves = Numero("SELECT COUNT(*) AS N FROM ALBARACAP WHERE NUMFAC_AC = '" + numero + "'");
+    Exigir_Iguals(queixes, "lines of invoice " + numero,
+                  Numero("SELECT COUNT(*) AS N FROM FACTURALIN WHERE NUMALB_FL = " + numero),
+                  notes_seves * (linies_per_facturar + 1));
+    Exigir_Iguals(queixes, "total of invoice " + numero,
+                  Numero("SELECT IMPORT_FC FROM FACTURACAP WHERE NUMALB_FC = " + numero),
+                  notes_seves * linies_per_facturar * 121);
+    if (!Flag_Pagament("F", factura)) queixes.push_back("invoice " + numero + " has no flag");
+  }
+}
+
 }  // namespace
 
 std::vector<std::string> Discordances() {
@@ -132,6 +163,7 @@ std::vector<std::string> Discordances() {
   for (const Article_Prova& article : Articles()) Comparar_Estoc(queixes, article);
   Comparar_Servides(queixes);
   Comparar_Flags(queixes);
+  Comparar_Factures(queixes);
   return queixes;
 }
 

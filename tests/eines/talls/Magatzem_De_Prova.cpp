@@ -45,6 +45,22 @@ void Crear_Documents(Connexio& comuna) {
   }
 }
 
+// Lines of no article, which move no stock.
+void Crear_Notes_Per_Facturar(Connexio& comuna) {
+  for (int nota = primera_per_facturar; nota <= ultima_per_facturar; ++nota) {
+    const std::string numero = std::to_string(nota);
+    comuna.Execute(
+        "INSERT INTO ALBARACAP (NUMALB_AC, EMPRESA_AC, DATA_AC, CLIENT_AC, CLIENT_DESC_AC, IVA_AC, NUMFAC_AC, "
+        "PAGAMENT_AC) VALUES (" +
+        numero + ", 'B00000000', #3/1/2011#, 'C1', 'Client de prova', -1, '', -1)");
+    for (int linia = 1; linia <= linies_per_facturar; ++linia)
+      comuna.Execute(
+          "INSERT INTO ALBARALIN (NUMALB_AL, EMPRESA_AL, LIN_AL, ARTICLE_AL, PORC_IVA_AL, IMPORT_NET_AL, "
+          "IMPORT_BRUT_AL) VALUES (" +
+          numero + ", 'B00000000', " + std::to_string(linia) + ", 'VAR', 21, 100, 121)");
+  }
+}
+
 }  // namespace
 
 const std::vector<Article_Prova>& Articles() {
@@ -63,6 +79,7 @@ void Crear_Magatzem(const Lloc& lloc) {
   comuna.Execute("INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI, IVA_CLI) VALUES ('C1', 'Client de prova', -1)");
   Crear_Articles(comuna);
   Crear_Documents(comuna);
+  Crear_Notes_Per_Facturar(comuna);
   transaccio.Confirmar();
 }
 

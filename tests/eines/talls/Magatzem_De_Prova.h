@@ -9,6 +9,10 @@
 namespace talls {
 
 constexpr const char* empresa = "B00000000";
+// Notes that are only invoiced and freed, of three lines each, stand behind those that are worked on.
+constexpr int primera_per_facturar = 101;
+constexpr int ultima_per_facturar = 104;
+constexpr int linies_per_facturar = 3;
 constexpr int notes = 6;              // delivery notes, from 1
 constexpr int comandes = 2;           // orders, from 1; a line of each article
 constexpr double estoc_inicial = 40;  // units of each article that keeps stock

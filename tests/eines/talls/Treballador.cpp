@@ -8,6 +8,8 @@
 #include "payments/M_Flags.h"
 #include "payments/M_Pagaments.h"
 #include "sales/M_Albarans.h"
+#include "sales/M_Consultes_Venda.h"
+#include "sales/M_Factures.h"
 #include "sales/M_Tipus_Venda.h"
 #include "tests/eines/talls/Magatzem_De_Prova.h"
 
@@ -37,6 +39,7 @@ class Treballador {
 
   void Un_Pas() {
     if (Qualsevol(0, 4) == 0) return Pagar();
+    if (Qualsevol(0, 3) == 0) return Facturar_O_Desfer();
     const std::int64_t nota = Qualsevol(1, notes);
     const std::int64_t linies = Comptar_Linies_Albara(nota, empresa);
     if (linies > 0 && (linies > 8 || Qualsevol(0, 2) == 0)) {
@@ -109,6 +112,19 @@ class Treballador {
       pagaments.Update();
     }
     Propagar_Flag_Pagaments(document, numero);
+  }
+
+  // Some of the notes that are open become an invoice, or an invoice frees its notes.
+  void Facturar_O_Desfer() {
+    const Recordset facturats("SELECT DISTINCT NUMFAC_AC FROM ALBARACAP WHERE NUMFAC_AC <> ''", sessio.Connexio_Comuna);
+    if (facturats.RecordCount() > 0 && Qualsevol(0, 1) == 0) {
+      Esborrar_Document(tipus_factura, Valor(facturats[0].Text()).Enter(), empresa);
+      return;
+    }
+    const Valor_Criteri numeros{.text = std::to_string(Qualsevol(primera_per_facturar, ultima_per_facturar)),
+                                .text_y = std::to_string(ultima_per_facturar)};
+    Facturar({.albarans = Consulta_Albarans({{"TXT_ALBARA", numeros}}, true) + " AND ESTAT_AC = 0",
+              .numero = std::to_string(Seguent_Factura())});
   }
 
   void Esborrar_Una_Linia(std::int64_t nota) {
