@@ -39,3 +39,4 @@ std::vector<Figura> Mesurar_Llista_Mestres();
 std::vector<Figura> Mesurar_Inici();
 std::vector<Figura> Mesurar_Calculs();
 std::vector<Figura> Mesurar_Document_PDF();
+std::vector<Figura> Mesurar_Facturacio();

@@ -116,8 +116,8 @@ class Generador {
 
   void Llegir_Grups() {
     Recordset rs(
-        "SELECT NUMALB_AL, PORC_IVA_AL, PORC_RE_AL, LINIES FROM ALBARALIN, (SELECT NUMALB_AL AS ALBARA, MIN(LIN_AL) "
-        "AS PRIMERA, COUNT(*) AS LINIES FROM ALBARALIN" +
+        "SELECT NUMALB_AL, PORC_IVA_AL, PORC_RE_AL, LINIES, PRIMERA, DARRERA FROM ALBARALIN, (SELECT NUMALB_AL AS "
+        "ALBARA, MIN(LIN_AL) AS PRIMERA, MAX(LIN_AL) AS DARRERA, COUNT(*) AS LINIES FROM ALBARALIN" +
             De_Les_Linies() + " GROUP BY NUMALB_AL) AS PRIMERES WHERE EMPRESA_AL = " + empresa_ +
             " AND NUMALB_AL = ALBARA AND LIN_AL = PRIMERA ORDER BY NUMALB_AL",
         sessio.Connexio_Comuna);
@@ -127,6 +127,7 @@ class Generador {
       grups_.push_back({&*albara, rs["LINIES"].Enter(), Nul_A_Defecte(rs["PORC_IVA_AL"]).Doble(),
                         Nul_A_Defecte(rs["PORC_RE_AL"]).Doble()});
       linies_ += grups_.back().linies;
+      sense_forats_ = sense_forats_ && rs["PRIMERA"].Enter() == 1 && rs["DARRERA"].Enter() == grups_.back().linies;
     }
     if (linies_ + static_cast<std::int64_t>(grups_.size()) > std::numeric_limits<std::int16_t>::max())
       Llancar_Error(errors::desbordament, "M_Factures");
@@ -159,12 +160,16 @@ class Generador {
       on += std::string(", ") + paper + "_FL";
       d_on += std::string(", ") + paper + "_AL";
     }
+    // Counting them takes longer than copying them.
+    const std::string en_la_nota =
+        sense_forats_ ? "LIN_AL" : "ROW_NUMBER() OVER (PARTITION BY NUMALB_AL ORDER BY LIN_AL)";
     const int copiades = sessio.Connexio_Comuna.Execute(
-        "INSERT INTO FACTURALIN (NUMALB_FL, EMPRESA_FL, LIN_FL" + on +
-        ") SELECT NUMALB_FC, EMPRESA_FC, ROW_NUMBER() OVER (ORDER BY NUMALB_AL, LIN_AL) + DENSE_RANK() OVER (ORDER BY "
-        "NUMALB_AL)" +
-        d_on + " FROM ALBARALIN, FACTURACAP" + De_Les_Linies() + " AND NUMALB_FC = " + std::to_string(numero_) +
-        " AND EMPRESA_FC = " + empresa_);
+        "INSERT INTO FACTURALIN (NUMALB_FL, EMPRESA_FL, LIN_FL" + on + ") SELECT NUMALB_FC, EMPRESA_FC, ABANS + " +
+        en_la_nota + d_on +
+        " FROM ALBARALIN, FACTURACAP, (SELECT NUMALB_AL AS ALBARA, SUM(COUNT(*) + 1) OVER (ORDER BY NUMALB_AL) - "
+        "COUNT(*) AS ABANS FROM ALBARALIN" +
+        De_Les_Linies() + " GROUP BY NUMALB_AL) AS LINIES_ABANS" + De_Les_Linies() +
+        " AND NUMALB_AL = ALBARA AND NUMALB_FC = " + std::to_string(numero_) + " AND EMPRESA_FC = " + empresa_);
     if (copiades != linies_) throw Albarans_Canviats();
   }
 
@@ -181,6 +186,7 @@ class Generador {
   std::string llista_;
   std::vector<Grup> grups_;
   std::int64_t linies_ = 0;
+  bool sense_forats_ = true;  // the lines of every note are numbered from 1 on
 };
 
 }  // namespace

@@ -64,6 +64,19 @@ TEST_F(M_Facturar, the_lines_of_each_note_stand_behind_its_heading) {
   EXPECT_EQ(Moviments(), 0);
 }
 
+TEST_F(M_Facturar, lines_without_gaps_take_the_same_numbers) {
+  Executar("UPDATE ALBARALIN SET LIN_AL = 1 WHERE NUMALB_AL = 1 AND LIN_AL = 2");
+  Executar("UPDATE ALBARALIN SET LIN_AL = 2 WHERE NUMALB_AL = 1 AND LIN_AL = 5");
+  Executar("UPDATE ALBARALIN SET LIN_AL = 1 WHERE NUMALB_AL = 2");
+  EXPECT_TRUE(Fer({1, 2, 3}));
+  EXPECT_EQ(Linia(1), "|Albarán 1 de 04/03/2011|21|0");
+  EXPECT_EQ(Linia(2), "A1||21|10");
+  EXPECT_EQ(Linia(3), "A1||10|20");
+  EXPECT_EQ(Linia(4), "|Albarán 2 de 09/03/2011|21|0");
+  EXPECT_EQ(Linia(5), "A1||21|30");
+  EXPECT_EQ(Linia(6), "none");
+}
+
 TEST_F(M_Facturar, every_column_of_a_line_is_copied) {
   Executar(
       "UPDATE ALBARALIN SET DESCRIPCIO_AL = 'Clau', COST_AL = 1, UNITATS_AL = 2, PORC_MARGE_AL = 3, MARGE_AL = 4, "
