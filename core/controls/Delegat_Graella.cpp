@@ -108,20 +108,17 @@ void Delegat_Graella::setEditorData(QWidget* editor, const QModelIndex& index) c
   camp->setText(index.data(Qt::EditRole).toString());
 }
 
-// What the row does not take is told, once, and stays in its cell. A box takes the focus, and the editor that loses it
-// comes here again.
+// What the row does not take is told, once, and stays in its cell.
 void Delegat_Graella::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const {
   const auto* combo = qobject_cast<QComboBox*>(editor);
   const QVariant escrit = combo != nullptr ? combo->currentData() : qobject_cast<QLineEdit*>(editor)->text();
-  if (editor == provant_ || (editor == retingut_ && escrit == refusat_)) return;
-  provant_ = editor;
+  if (editor == retingut_ && escrit == refusat_) return;
   retingut_.clear();
   bool pres = false;
   Formulari::Guardar_Event([&] {
     model->setData(index, escrit, Qt::EditRole);
     pres = true;
   });
-  provant_.clear();
   if (pres) return;
   retingut_ = editor;
   cella_ = index;

@@ -16,9 +16,7 @@ class Delegat_Graella : public QStyledItemDelegate {
   QWidget* createEditor(QWidget* pare, const QStyleOptionViewItem& opcio, const QModelIndex& index) const override;
   void setEditorData(QWidget* editor, const QModelIndex& index) const override;
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
-  // Its cell does not take what the editor holds, or is being asked whether it does.
-  bool Es_Retingut(const QWidget* editor) const { return editor == retingut_ || editor == provant_; }
-  QWidget* Retingut() const { return retingut_; }  // null: none
+  QWidget* Retingut() const { return retingut_; }  // the editor whose text its cell does not take; null: none
   QModelIndex Cella_Retinguda() const { return cella_; }
   void Deixar_Anar() { retingut_.clear(); }
   // The whole text of a cell that shows a part of it.
@@ -41,5 +39,4 @@ class Delegat_Graella : public QStyledItemDelegate {
   mutable QPointer<QWidget> retingut_;
   mutable QPersistentModelIndex cella_;
   mutable QVariant refusat_;
-  mutable QPointer<const QWidget> provant_;
 };

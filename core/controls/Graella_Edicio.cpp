@@ -130,7 +130,7 @@ const QWidget* Graella::Espai_Propi() const {
 // Enter goes on through the row; Tab opens the next cell.
 void Graella::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint com) {
   using enum QAbstractItemDelegate::EndEditHint;
-  if (com != RevertModelCache && delegat_->Es_Retingut(editor)) return Tornar_A_La_Cella();
+  if (com != RevertModelCache && editor == delegat_->Retingut()) return Tornar_A_La_Cella();
   delegat_->Deixar_Anar();
   Treure_Refus(editor);
   const bool es_mou = com == SubmitModelCache || com == EditNextItem || com == EditPreviousItem;

@@ -1,11 +1,14 @@
 // Rows that are edited in their grid: from cell to cell, and the steps that a table adds to them.
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "core/controls/Graella.h"
+#include "core/formularis/Pantalla_Qt.h"
 #include "tests/pantalles/Base_Pantalles.h"
 
 namespace {
@@ -271,4 +274,35 @@ TEST_F(Cella_De_Nombre, That_is_open_counts_when_its_row_is_written) {
   QTest::keyClicks(Editor(), QStringLiteral("7"));
   EXPECT_TRUE(graella.Desar_Fila());
   EXPECT_EQ(Terminis(), 7);
+}
+
+// The real box takes the focus from the cell, and gives it back.
+TEST_F(Cella_De_Nombre, Is_told_of_in_one_box_whatever_leaves_it) {
+  Pantalla_Qt pantalla;
+  sessio.pantalla = &pantalla;
+  int caixes = 0;
+  QTimer tanca;
+  QObject::connect(&tanca, &QTimer::timeout, qApp, [&] {
+    auto* caixa = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (caixa == nullptr) return;
+    ++caixes;
+    caixa->accept();
+  });
+  tanca.start(10);
+  const auto esperar = [&] {
+    QTest::qWait(60);
+    QApplication::setActiveWindow(&finestra);  // as a window manager does when a box has gone
+  };
+  Prem(Qt::Key_Return);
+  esperar();
+  EXPECT_EQ(caixes, 1);
+  ASSERT_NE(Editor(), nullptr);
+  EXPECT_EQ(Editor()->text(), QStringLiteral("dos"));
+  QTest::keyClicks(Editor(), QStringLiteral("tres"));
+  QTest::mouseClick(&camp, Qt::LeftButton);
+  esperar();
+  EXPECT_EQ(caixes, 2) << "another text, another box";
+  ASSERT_NE(Editor(), nullptr);
+  EXPECT_EQ(Editor()->text(), QStringLiteral("tres"));
+  sessio.pantalla = &installacio.pantalla;
 }
