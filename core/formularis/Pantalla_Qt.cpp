@@ -3,8 +3,12 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <chrono>
 #include <stdexcept>
@@ -44,6 +48,27 @@ void Fer_Lloc_Al_Titol(QMessageBox& caixa) {
     auto* lloc = new QSpacerItem(amplada, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
     quadricula->addItem(lloc, quadricula->rowCount(), 0, 1, quadricula->columnCount());
   }
+}
+
+// A text taller than the screen is scrolled: its buttons are always in reach.
+void Fer_Cabre_El_Text(QMessageBox& caixa) {
+  auto* etiqueta = caixa.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  auto* quadricula = qobject_cast<QGridLayout*>(caixa.layout());
+  const int maxim = caixa.screen()->availableGeometry().height() * 2 / 3;
+  if (etiqueta == nullptr || quadricula == nullptr || etiqueta->sizeHint().height() <= maxim) return;
+  int fila = 0;
+  int columna = 0;
+  int files = 0;
+  int columnes = 0;
+  quadricula->getItemPosition(quadricula->indexOf(etiqueta), &fila, &columna, &files, &columnes);
+  quadricula->removeWidget(etiqueta);
+  auto* area = new QScrollArea(&caixa);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFixedHeight(maxim);
+  area->setMinimumWidth(etiqueta->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+  area->setWidget(etiqueta);
+  quadricula->addWidget(area, fila, columna, files, columnes);
 }
 
 // What the user does, closing a window and ending the program among it.
@@ -105,6 +130,7 @@ Resposta Pantalla_Qt::Obrir_Caixa(const std::string& text, int estil, const std:
     caixa.setEscapeButton(nega);
   }
   Fer_Lloc_Al_Titol(caixa);
+  Fer_Cabre_El_Text(caixa);
   QApplication::setOverrideCursor(Qt::ArrowCursor);
   caixa.exec();
   QApplication::restoreOverrideCursor();

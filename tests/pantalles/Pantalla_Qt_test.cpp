@@ -1,8 +1,12 @@
 #include "core/formularis/Pantalla_Qt.h"
 
+#include <QAbstractButton>
 #include <QAbstractEventDispatcher>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -105,4 +109,24 @@ TEST(Instancia_Unica, Another_data_folder_is_another_terminal) {
 TEST(Instancia_Unica, A_folder_that_is_not_there_stops_nobody) {
   const Instancia_Unica instancia(QStringLiteral("/no/such/folder"));
   EXPECT_TRUE(instancia.Es_La_Primera());
+}
+
+TEST(Pantalla_Qt, A_box_of_many_lines_is_scrolled_and_keeps_its_buttons_on_the_screen) {
+  Pantalla_Qt pantalla;
+  sessio.pantalla = &pantalla;
+  std::string text = "Hi ha Albarans ja Facturats: \n";
+  for (int nota = 1; nota <= 500; ++nota) text += "     " + std::to_string(nota) + "\n";
+  bool vista = false;
+  QTimer::singleShot(200, qApp, [&] {
+    auto* caixa = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(caixa, nullptr);
+    vista = true;
+    EXPECT_LT(caixa->height(), caixa->screen()->availableGeometry().height());
+    for (auto* boto : caixa->buttons()) EXPECT_LE(boto->geometry().bottom(), caixa->height());
+    const auto* etiqueta = caixa->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    EXPECT_GT(etiqueta->height(), caixa->height()) << "the text is whole, behind a scroll bar";
+    caixa->buttons().constFirst()->click();
+  });
+  pantalla.Caixa(text, estil::si_no);
+  EXPECT_TRUE(vista);
 }
