@@ -29,6 +29,7 @@ std::vector<std::int64_t> Numeros_Triats() {
   const bool trobades = files.empty() && !rs.Filter().empty();
   for (std::int64_t fila = 0; trobades && fila < rs.RecordCount(); ++fila) files.push_back(fila);
   std::vector<std::int64_t> numeros;
+  numeros.reserve(files.size() + 1);
   const int camp = rs.Index_Camp("NUMALB_AC");
   for (const std::int64_t fila : files) numeros.push_back(rs.Valor_De_Fila(fila, camp).Enter());
   if (trobades && numeros.empty()) numeros.push_back(0);  // which no note has

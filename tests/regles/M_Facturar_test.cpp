@@ -255,3 +255,43 @@ TEST_F(M_Facturar_De_Nou, a_note_that_becomes_invoiced_meanwhile_is_asked_about_
   EXPECT_EQ(Marcats("6"), 1);
   sessio.pantalla = &pantalla;
 }
+
+// A month of 200 notes of forty customers, an invoice each; a third of them undone and made again.
+TEST_F(M_Facturar, the_book_of_a_month_agrees_to_the_cent_with_the_feet_and_the_lines) {
+  Executar("DELETE * FROM ALBARACAP");
+  constexpr int clients = 40;
+  constexpr int notes = 200;
+  {
+    Transaccio transaccio(sessio.Connexio_Comuna);
+    for (int nota = 1; nota <= notes; ++nota) {
+      Posar_Albara_De(nota, "#3/" + std::to_string(1 + nota % 28) + "/2011#", "C" + std::to_string(nota % clients));
+      for (int lin = 1; lin <= 4; ++lin) {
+        const double net = 0.07 * nota + 1.13 * lin;
+        Posar_Linia_Albara(nota, lin, lin % 2 == 0 ? 21 : 10, net, net * 1.1);
+      }
+    }
+    transaccio.Confirmar();
+  }
+  const auto facturar = [](int client) {
+    const std::string albarans =
+        Consulta_Albarans({{"CMB_CLIENT", {.text = "C" + std::to_string(client)}}}, true) + " AND ESTAT_AC = 0";
+    EXPECT_TRUE(Facturar({.albarans = albarans, .numero = std::to_string(Primer_Forat_Factura())}));
+  };
+  for (int client = 0; client < clients; ++client) facturar(client);
+  for (int factura = 2; factura <= clients; factura += 3) {
+    pantalla.respostes = {Resposta::Ok};
+    Esborrar_Factura(factura, empresa_prova);
+  }
+  EXPECT_EQ(Files("SELECT * FROM ALBARACAP WHERE ESTAT_AC = 0"), 13 * notes / clients);
+  for (int factura = 2; factura <= clients; factura += 3) facturar(factura - 1);
+  EXPECT_EQ(Files("SELECT * FROM ALBARACAP WHERE ESTAT_AC = 0 OR NUMFAC_AC = ''"), 0);
+  const Recordset llibre(
+      "SELECT COUNT(*) AS N, SUM(BASE) AS B, SUM(TOTAL) AS T FROM (" + Consulta_Llistat_Factures({}) + ")",
+      sessio.Connexio_Comuna);
+  EXPECT_EQ(llibre["N"].Enter(), clients);
+  EXPECT_EQ(Arrodonir(llibre["T"].Doble(), 2), Arrodonir(Numero("SELECT SUM(IMPORT_FC) AS S FROM FACTURACAP"), 2));
+  EXPECT_EQ(Arrodonir(llibre["T"].Doble(), 2), Arrodonir(Numero("SELECT SUM(IMPORT_FP) AS S FROM FACTURAPEU"), 2));
+  // Each foot rounds once a rate: the bases are those of the lines.
+  EXPECT_NEAR(llibre["B"].Doble(), Numero("SELECT SUM(IMPORT_NET_AL) AS S FROM ALBARALIN"), 0.005 * 2 * clients);
+  EXPECT_EQ(Files("SELECT * FROM FACTURALIN"), notes * 5);
+}
