@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <sstream>
 
 #include "core/M_Funcions_Comuns.h"
@@ -73,6 +74,12 @@ Document_Inexistent::Document_Inexistent(const Tipus_Document& tipus)
           errors::refusat, std::string(tipus.formulari),
           Missatge("El document ja no existeix.", "El documento ya no existe.", "The document no longer exists.")) {}
 
+double Total_Mogut(const std::vector<Unitats_Mogudes>& mogudes) {
+  return std::accumulate(mogudes.begin(), mogudes.end(), 0.0, [](double total, const Unitats_Mogudes& mogut) {
+    return total + mogut.signe * mogut.unitats;
+  });
+}
+
 const Passos_Document& Passos_De(const Tipus_Document& tipus) {
   static constexpr Passos_Document cap_pas;
   return tipus.passos == nullptr ? cap_pas : *tipus.passos;
@@ -130,7 +137,7 @@ std::string Condicio_Document(const Tipus_Document& tipus, const Taula_Document&
          taula.Columna("EMPRESA") + " = " + Text_SQL(empresa);
 }
 
-Valor Crear_Capcalera(const Tipus_Document& tipus) {
+Valor Crear_Capcalera(const Tipus_Document& tipus, const std::vector<std::pair<const char*, Valor>>& altres) {
   const Taula_Document& cap = tipus.cap;
   if (sessio.Empresa_Actual.find_first_not_of(' ') == std::string::npos)
     throw Error_Brollador(errors::refusat, "Empresa", "Empresa");
@@ -146,6 +153,7 @@ Valor Crear_Capcalera(const Tipus_Document& tipus) {
   rs.Set(cap.Columna("EMP_DESC"), sessio.Nom_Empresa);
   rs.Set(cap.Columna("NUMALB"), numero);
   rs.Set(cap.Columna("DATA"), Avui());
+  for (const auto& [paper, valor] : altres) rs.Set(cap.Columna(paper), valor);
   rs.Update();
   return rs[cap.Columna("NUMALB")];
 }

@@ -47,6 +47,12 @@ struct Capcalera_Oberta {
   bool re = false;
 };
 
+// Units that a line moves: +1 when they come into a document, -1 when they go out of it.
+struct Unitats_Mogudes {
+  double signe;
+  double unitats;
+};
+double Total_Mogut(const std::vector<Unitats_Mogudes>& mogudes);
 // The stock that a line moves: looked at, and warned of, before the first write; asked for when the line stands;
 // posted.
 struct Apunt_Estoc {
@@ -72,8 +78,9 @@ struct Passos_Document {
   // second may refuse the line, by raising, and writes nothing yet.
   void (*demanar)() = nullptr;
   Apunt_Linia (*apunt)(const Capcalera_Oberta& cap, const Linia_Entrada& linia) = nullptr;
-  // signe +1 when a line comes into being, -1 when it goes away.
-  Apunt_Estoc (*estoc)(const Capcalera_Oberta& cap, const std::string& article, double signe, double unitats) = nullptr;
+  // A posting for each of the units moved; what is warned of is what all of them leave.
+  Apunt_Estoc (*estoc)(const Capcalera_Oberta& cap, const std::string& article,
+                       const std::vector<Unitats_Mogudes>& mogudes) = nullptr;
   // The columns that only this kind has, into the row that is about to be written.
   void (*columnes)(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& fila) = nullptr;
 
@@ -90,6 +97,8 @@ struct Passos_Document {
   // The whole paper has been deleted: what depended on it is let go, in the same transaction.
   void (*document_esborrat)(const Valor& numero, const std::string& empresa) = nullptr;
 };
+
+struct Passos_Detall;
 
 struct Tipus_Document {
   std::string_view formulari;  // F_ALBARA
@@ -112,6 +121,7 @@ struct Tipus_Document {
   Pregunta refus_esborrar = {};        // before its number, when the database keeps it; none: the error as it comes
   const char* error_estoc = "Error al intentar actualizar movimientos, stock ...";
   const Passos_Document* passos = nullptr;
+  const Passos_Detall* detall = nullptr;  // what it does with the detail of a line
 };
 // The steps of a kind; of one that has none, no steps.
 const Passos_Document& Passos_De(const Tipus_Document& tipus);
@@ -141,9 +151,9 @@ std::string Numero_Document_SQL(const Tipus_Document& tipus, const Valor& numero
 std::string Condicio_Document(const Tipus_Document& tipus, const Taula_Document& taula, const Valor& numero,
                               const std::string& empresa);
 
-// Creates the head (number, company, its name, today) and returns its number. Raises 1010 "Empresa" without a company,
-// the engine's error when another terminal took the number.
-Valor Crear_Capcalera(const Tipus_Document& tipus);
+// Creates the head (number, company, its name, today, and `altres`: role words and what goes into them) and returns its
+// number. Raises 1010 "Empresa" without a company, the engine's error when another terminal took the number.
+Valor Crear_Capcalera(const Tipus_Document& tipus, const std::vector<std::pair<const char*, Valor>>& altres = {});
 Valor Seguent_Numero(const Tipus_Document& tipus, const std::string& empresa);
 // Raises 6 after line 32767.
 std::int16_t Seguent_Linia(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa);

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Controls.h"
@@ -45,6 +46,9 @@ void Editor_Document::Muntar() {
       nova_, descripcio_.entrada,
       Entrada_Linia::Editor{.cap = [this] { return cap_->Oberta(); }, .desar = [this] { return Desar_Linia(); }});
   if (opcions_ != nullptr) opcions_->Opcio(0);
+  if (descripcio_.detall != nullptr)
+    connect(graella_linies_, &Graella::Doble_Clic, this,
+            [this] { Guardar_Event([this] { Obrir_Detall(); }, [this] { Rellegir_Linies(); }); });
   Connectar_Capcalera();
   Connectar_Botons();
 }
@@ -146,7 +150,9 @@ void Editor_Document::Activar() {
   const QString crida = QString::fromStdString(sessio.*Tipus().crida);
   const bool pot_entrar = nova_->isEnabled() && nova_->isVisible();
   auto* sortir = Boto("B_Exit");
-  if (crida.endsWith(u"NEW")) {
+  if (std::exchange(torna_del_detall_, false)) {
+    graella_linies_->setFocus();
+  } else if (crida.endsWith(u"NEW")) {
     Posar_Focus(cap_->Camp_Numero());
   } else if (crida == u"EDIT_COMANDA") {
     if (pot_entrar)

@@ -3,6 +3,7 @@
 // something that the kind has not: an option set, a foot, buttons that move lines, a box of its state.
 #pragma once
 
+#include <QPointer>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "documents/F_Capcalera_Document.h"
 #include "documents/F_Columnes_Document.h"
 #include "documents/F_Entrada_Linia.h"
+#include "documents/M_Detall_Linia.h"
 
 class Grup_Opcions;
 class QGroupBox;
@@ -42,7 +44,8 @@ struct Descripcio_Editor {
   void (*imprimir)(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) = nullptr;
   std::vector<Boto_D_Editor> botons = {};
   const char* sense_pagaments =
-      nullptr;  // what B_Pagaments says of a document that may have none; null: no such button
+      nullptr;                       // what B_Pagaments says of a document that may have none; null: no such button
+  const char16_t* detall = nullptr;  // shows a line whole; null: its lines have no such screen
 };
 
 class Editor_Document : public Formulari, public Document_Obert {
@@ -69,12 +72,22 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Desar_Capcalera() override;
   void Refrescar_Peu() override;
 
+  // For the detail of its lines.
+  const Tipus_Document& Tipus() const { return descripcio_.tipus; }
+  Capcalera_Oberta Capcalera() const { return cap_->Oberta(); }
+  Qui_Del_Document Qui() const;
+  std::int16_t Linia_Actual() const;  // the number of the current line
+  bool Nomes_Es_Mira() const { return Dret() == "C"; }
+  void Tornar_Del_Detall();         // it goes
+  void Rellegir_Linies();           // another form wrote them, or the foot
+  void Cancellar_Edicions();        // after a failure the screen shows what the database holds
+  bool Desar_En_Tancar() override;  // the detail goes first
+
  protected:
   // After setupUi: finds the controls and connects them.
   void Muntar();
 
  private:
-  const Tipus_Document& Tipus() const { return descripcio_.tipus; }
   const Valor& Numero() const { return cap_->Numero(); }
   const std::string& Dret() const { return sessio.*descripcio_.dret; }
   QPushButton* Boto(const char* nom) const;
@@ -94,12 +107,12 @@ class Editor_Document : public Formulari, public Document_Obert {
   void Canviar_Numero(const Valor& nou);
   void Canviar_Qui();
   bool Desar_Linia();
-  void Cancellar_Edicions();
   void Esborrar_Linia_Actual();
   void Desplacar_Linia(bool avall);
   void Valorar();
   void Imprimir(const char* proposit);
   void Obrir_Pagaments();
+  void Obrir_Detall();
   void Requerir_Linies();
 
   const Descripcio_Editor& descripcio_;
@@ -109,6 +122,8 @@ class Editor_Document : public Formulari, public Document_Obert {
   Recordset linies_;
   Recordset peu_;
   std::unique_ptr<Entrada_Linia> entrada_;
+  QPointer<Formulari> detall_;     // of one of its lines
+  bool torna_del_detall_ = false;  // it has just gone: the user is among the lines
   Graella* graella_linies_ = nullptr;
   Graella* graella_peu_ = nullptr;
   QGroupBox* nova_ = nullptr;

@@ -47,7 +47,6 @@ bool Editor_Document::Desar_Linia() {
   return !passatger;
 }
 
-// After a failure the screen shows what the database holds.
 void Editor_Document::Cancellar_Edicions() {
   linies_.CancelUpdate();
   cap_->Cancellar();
@@ -116,4 +115,42 @@ void Editor_Document::Obrir_Pagaments() {
   sessio.Pag_Client = cap_->Text(descripcio_.qui->codi);
   sessio.Pag_Total = cap_->Import();
   Obrir(QStringLiteral("F_PAGDOC"));
+}
+
+Qui_Del_Document Editor_Document::Qui() const {
+  if (descripcio_.qui == nullptr) return {};
+  return {cap_->Text(descripcio_.qui->codi), cap_->Combo()->currentText().toStdString()};
+}
+
+std::int16_t Editor_Document::Linia_Actual() const {
+  return static_cast<std::int16_t>(graella_linies_->Valor_Actual(Tipus().lin.Columna("LIN").c_str()).Enter());
+}
+
+// The detail asks the session whose line it shows. One of another document that stands open stays, and comes to the
+// front.
+void Editor_Document::Obrir_Detall() {
+  if (linies_.RecordCount() == 0) return;
+  const QString detall = QString::fromUtf16(descripcio_.detall);
+  const bool oberta = Formulari_De_Nom(detall) != nullptr;
+  if (!oberta) sessio.Crida_Document = Tipus().formulari;
+  Formulari* formulari = Mostrar_Formulari(detall);
+  if (formulari == nullptr || oberta) return;
+  detall_ = formulari;
+  Obrir_Formulari(detall);
+}
+
+bool Editor_Document::Desar_En_Tancar() {
+  if (detall_ != nullptr) Descarregar_Formulari(detall_->Nom());
+  return detall_ == nullptr || detall_->Es_Tanca();
+}
+
+void Editor_Document::Rellegir_Linies() {
+  Requerir_Linies();
+  Refrescar_Peu();
+  Aplicar_Estat();
+}
+
+void Editor_Document::Tornar_Del_Detall() {
+  torna_del_detall_ = true;
+  Rellegir_Linies();
 }

@@ -8,6 +8,7 @@
 #include "core/controls/Focus_Camps.h"
 #include "core/dades/Numeros.h"
 #include "core/formularis/Formulari.h"
+#include "documents/M_Linies_Document.h"
 #include "masters/M_Articles.h"
 
 namespace {
@@ -37,8 +38,7 @@ Entrada_Linia::Entrada_Linia(QGroupBox* marc, const Descripcio_Entrada& descripc
       marc_(marc),
       sufix_(QLatin1String(descripcio.sufix)),
       editor_(std::move(editor)),
-      preus_(
-          {marc, descripcio.sufix}, descripcio.preus, [this] { return Linia(); }, [this] { return Buscar_Taxes(); }) {
+      preus_({marc, descripcio.sufix}, descripcio.preus, [this](const Camp_De_Preu& quin) { Recalcular(quin); }) {
   article_ = Buscar<QLineEdit>("TXT_ARTICLE");
   descripcio_ = Buscar<QLineEdit>("TXT_DESCRIPCIO");
   unitats_ = Buscar<Camp_Numeric>("TXT_UNITATS");
@@ -114,6 +114,12 @@ void Entrada_Linia::Deixar_Article() {
 Taxes_Linia Entrada_Linia::Buscar_Taxes() {
   const Capcalera_Oberta cap = editor_.cap();
   return taxes_ = Taxes_De_Linia(iva_article_->text().toStdString(), cap.iva, cap.re);
+}
+
+// The other prices follow the one that was typed, which stays as it is.
+void Entrada_Linia::Recalcular(const Camp_De_Preu& quin) {
+  const Taxes_Linia taxes = Buscar_Taxes();
+  preus_.Mostrar(Calcular_Linia(Linia(), taxes, quin.mode), &quin);
 }
 
 void Entrada_Linia::Refer_PVP() {

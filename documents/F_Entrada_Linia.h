@@ -44,6 +44,7 @@ class Entrada_Linia : public QObject {
   void Deixar_Article();
   void Deixar_Unitats();
   Taxes_Linia Buscar_Taxes();
+  void Recalcular(const Camp_De_Preu& quin);
 
   QGroupBox* marc_;
   QString sufix_;

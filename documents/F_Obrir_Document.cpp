@@ -31,7 +31,10 @@ bool Obrir_Document(const Tipus_Document& tipus, const Valor& numero, const std:
   const QString editor = QString::fromStdString(std::string(tipus.formulari));
   const auto* obert = dynamic_cast<Editor_Document*>(Formulari_De_Nom(editor));
   const bool es_el_mateix = obert != nullptr && Mateix_Numero(obert->Numero_Document(), numero);
-  if (obert != nullptr && !es_el_mateix) Descarregar_Formulari(editor);
+  if (obert != nullptr && !es_el_mateix) {
+    Descarregar_Formulari(editor);
+    if (Formulari_De_Nom(editor) != nullptr) return false;  // it could not save what it holds
+  }
   sessio.*tipus.crida = etiqueta;
   try {
     if (es_el_mateix)

@@ -10,7 +10,7 @@ constexpr const char* dos_decimals = "#,##0.00";
 constexpr const char* tres_decimals = "#,##0.000";
 constexpr const char* cinc_decimals = "#,##0.00000";
 
-std::vector<Camp_De_Preu> Preus(const char* mascara_cost) {
+std::vector<Camp_De_Preu> Preus(const char* mascara_cost, const char* camp_descompte) {
   using L = Linia_Entrada;
   using R = Resultat_Linia;
   return {
@@ -18,18 +18,19 @@ std::vector<Camp_De_Preu> Preus(const char* mascara_cost) {
       {"TXT_PREU_UNITARI", dos_decimals, Mode_Calcul::Preu_Unitari, &L::preu_unitari, &R::preu_unitari},
       {"TXT_PVP", dos_decimals, Mode_Calcul::Pvp, &L::pvp, &R::pvp},
       {"TXT_PORC_MARGE", cinc_decimals, Mode_Calcul::Porc_Marge, &L::porc_marge, &R::porc_marge},
-      {"TXT_DESCOMPTE", cinc_decimals, Mode_Calcul::Dte, &L::dte, &R::dte},
+      {camp_descompte, cinc_decimals, Mode_Calcul::Dte, &L::dte, &R::dte},
   };
 }
 
 }  // namespace
 
-const std::vector<Camp_De_Preu> preus_de_venda = Preus(dos_decimals);
-const std::vector<Camp_De_Preu> preus_de_compra = Preus(tres_decimals);
+const std::vector<Camp_De_Preu> preus_de_venda = Preus(dos_decimals, "TXT_DESCOMPTE");
+const std::vector<Camp_De_Preu> preus_de_compra = Preus(tres_decimals, "TXT_DESCOMPTE");
+const std::vector<Camp_De_Preu> preus_de_detall = Preus(dos_decimals, "TXT_DTE");
 
 Preus_Linia::Preus_Linia(const Lloc& lloc, const std::vector<Camp_De_Preu>& descripcio,
-                         std::function<Linia_Entrada()> linia, std::function<Taxes_Linia()> taxes)
-    : descripcio_(descripcio), linia_(std::move(linia)), taxes_(std::move(taxes)) {
+                         std::function<void(const Camp_De_Preu& quin)> canviat)
+    : descripcio_(descripcio), canviat_(std::move(canviat)) {
   for (std::size_t i = 0; i < descripcio_.size(); ++i) {
     const QString nom = QString::fromLatin1(descripcio_[i].control) + u'_' + QLatin1String(lloc.sufix);
     auto* camp = lloc.marc->findChild<Camp_Numeric*>(nom);
@@ -52,25 +53,21 @@ Camp_Numeric* Preus_Linia::Camp(double Linia_Entrada::*escrit) const {
   qFatal("no such price");
 }
 
-void Preus_Linia::Buidar() {
-  for (Camp_Numeric* camp : camps_) camp->Numero(0);
+void Preus_Linia::Mostrar(const Resultat_Linia& linia, const Camp_De_Preu* menys) {
+  for (std::size_t i = 0; i < camps_.size(); ++i) {
+    if (&descripcio_[i] != menys) camps_[i]->Numero(linia.*descripcio_[i].resultat);
+  }
+}
+
+void Preus_Linia::Habilitar(bool habilitats) {
+  for (Camp_Numeric* camp : camps_) camp->setEnabled(habilitats);
 }
 
 void Preus_Linia::Deixar(std::size_t quin) {
   if (!camps_[quin]->Es_Numeric()) return Retenir_Focus(camps_[quin]);
   if (camps_[quin]->Numero() == recordat_) return;
-  Formulari::Guardar_Event([this, quin] { Recalcular(quin); });
-}
-
-// The other prices follow the one that was typed, which stays as it is.
-void Preus_Linia::Recalcular(std::size_t quin) {
-  const Taxes_Linia taxes = taxes_();
-  const Linia_Entrada linia = linia_();
-  const Resultat_Linia resultat =
-      Calcular_Linia(linia.cost, linia.unitats, linia.porc_marge, linia.dte_article, taxes.porc_iva, taxes.porc_re,
-                     linia.preu_unitari, linia.pvp, linia.dte, descripcio_[quin].mode);
-  for (std::size_t i = 0; i < camps_.size(); ++i) {
-    if (i != quin) camps_[i]->Numero(resultat.*descripcio_[i].resultat);
-  }
-  recordat_ = camps_[quin]->Numero();
+  Formulari::Guardar_Event([this, quin] {
+    canviat_(descripcio_[quin]);
+    recordat_ = camps_[quin]->Numero();
+  });
 }

@@ -1,5 +1,5 @@
 // The prices of a line in their fields: the one that is left steers the others (Calcular_Linia). For the entry frame
-// and for whatever else shows a line in fields.
+// and for the detail of a line.
 #pragma once
 
 #include <functional>
@@ -21,6 +21,7 @@ struct Camp_De_Preu {
 };
 extern const std::vector<Camp_De_Preu> preus_de_venda;
 extern const std::vector<Camp_De_Preu> preus_de_compra;  // the cost with three decimals
+extern const std::vector<Camp_De_Preu> preus_de_detall;  // the same of sales, in the detail of a line
 
 class Preus_Linia {
  public:
@@ -28,21 +29,22 @@ class Preus_Linia {
     QWidget* marc;  // that holds the fields
     const char* sufix;
   };
-  // `linia` gives the line as all its fields hold it, `taxes` its rates.
-  Preus_Linia(const Lloc& lloc, const std::vector<Camp_De_Preu>& descripcio, std::function<Linia_Entrada()> linia,
-              std::function<Taxes_Linia()> taxes);
+  // `canviat` runs under the guard of events when another price than before is left in a field.
+  Preus_Linia(const Lloc& lloc, const std::vector<Camp_De_Preu>& descripcio,
+              std::function<void(const Camp_De_Preu& quin)> canviat);
 
   void Llegir(Linia_Entrada& linia) const;
   Camp_Numeric* Camp(double Linia_Entrada::*escrit) const;
-  void Buidar();
+  // All of them but `menys`.
+  void Mostrar(const Resultat_Linia& linia, const Camp_De_Preu* menys = nullptr);
+  void Habilitar(bool habilitats);
+  void Buidar() { Mostrar({}); }
 
  private:
   void Deixar(std::size_t quin);
-  void Recalcular(std::size_t quin);
 
   const std::vector<Camp_De_Preu>& descripcio_;
   std::vector<Camp_Numeric*> camps_;
-  std::function<Linia_Entrada()> linia_;
-  std::function<Taxes_Linia()> taxes_;
+  std::function<void(const Camp_De_Preu& quin)> canviat_;
   double recordat_ = 0;  // of the field that was entered last
 };

@@ -4,6 +4,9 @@
 #include <string>
 #include <string_view>
 
+// Units are rounded to these before they are added up or compared.
+inline constexpr int decimals_unitats = 5;
+
 struct Resultat_Linia {
   double cost = 0;
   double unitats = 0;
@@ -16,6 +19,7 @@ struct Resultat_Linia {
   double import_brut = 0;
   double marge = 0;
   double dte = 0;
+  bool operator==(const Resultat_Linia&) const = default;
 };
 
 // Which field changed: the others follow it.

@@ -14,12 +14,6 @@ bool Te_Columna(const Tipus_Document& tipus, const std::string& paper) {
   return (" " + std::string(tipus.columnes_linies) + " ").find(" " + paper + " ") != std::string::npos;
 }
 
-Apunt_Estoc Preparar_Estoc(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const std::string& article,
-                           double signe, double unitats) {
-  const Passos_Document& passos = Passos_De(tipus);
-  return passos.estoc == nullptr ? Apunt_Estoc() : passos.estoc(cap, article, signe, unitats);
-}
-
 // What the line needs to know, asked for at once.
 void Demanar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia) {
   if (cap.iva) Demanar_IVA(linia.iva_article);
@@ -28,39 +22,13 @@ void Demanar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, con
   if (const auto demanar = Passos_De(tipus).demanar) demanar();
 }
 
-// A line is saved from its price; where a kind is valued at cost, its amounts are not.
-Resultat_Linia Valorar(const Tipus_Document& tipus, const Linia_Entrada& linia, const Taxes_Linia& taxes) {
-  Resultat_Linia resultat =
-      Calcular_Linia(linia.cost, linia.unitats, linia.porc_marge, linia.dte_article, taxes.porc_iva, taxes.porc_re,
-                     linia.preu_unitari, linia.pvp, linia.dte, Mode_Calcul::Preu_Unitari);
-  if (tipus.valorat_al_cost) Valorar_Al_Cost(resultat);
-  return resultat;
-}
-
+// A line is saved from its price.
 void Escriure_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia,
                     std::int16_t numero, Recordset& linies) {
-  const auto posar = [&](const char* paper, const Valor& valor) {
-    if (Te_Columna(tipus, paper)) linies.Set(tipus.lin.Columna(paper), valor);
-  };
-  linies.AddNew();
-  posar("NUMALB", cap.numero);
-  posar("EMPRESA", cap.empresa);
-  posar("LIN", std::int64_t{numero});
-  posar("ARTICLE", linia.article);
-  posar("DESCRIPCIO", linia.descripcio);
-  posar("COST", linia.cost);
   const Taxes_Linia taxes = Taxes_De_Linia(linia.iva_article, cap.iva, cap.re);
-  posar("PORC_IVA", taxes.porc_iva);
-  posar("PORC_RE", taxes.porc_re);
-  posar("UNITATS", linia.unitats);
-  const Resultat_Linia resultat = Valorar(tipus, linia, taxes);
-  posar("PORC_MARGE", resultat.porc_marge);
-  posar("PREU_UNITARI", resultat.preu_unitari);
-  posar("PVP", resultat.pvp);
-  posar("IMPORT_NET", resultat.import_net);
-  posar("IMPORT_BRUT", resultat.import_brut);
-  posar("MARGE", resultat.marge);
-  posar("DTE", resultat.dte);
+  Posar_Linia_Nova(tipus, {cap.numero, cap.empresa, numero},
+                   {linia.article, linia.descripcio, Valorar_Linia(tipus, linia, taxes, Mode_Calcul::Preu_Unitari)},
+                   linies);
   if (const auto columnes = Passos_De(tipus).columnes) columnes(cap, linia, linies);
   if (!tipus.peu.nom.empty()) Demanar_Grups(tipus, cap.numero, cap.empresa);
   linies.Update();
@@ -107,13 +75,77 @@ void Recalcular_Linia(const Taula_Document& lin, Recordset& rs, const Taxes_Lini
 
 }  // namespace
 
+Apunt_Estoc Preparar_Estoc(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const std::string& article,
+                           const std::vector<Unitats_Mogudes>& mogudes) {
+  const Passos_Document& passos = Passos_De(tipus);
+  return passos.estoc == nullptr ? Apunt_Estoc() : passos.estoc(cap, article, mogudes);
+}
+
+const std::array<Xifra_De_Linia, 11> xifres_de_linia = {{{"COST", &Resultat_Linia::cost},
+                                                         {"PORC_IVA", &Resultat_Linia::porc_iva},
+                                                         {"PORC_RE", &Resultat_Linia::porc_re},
+                                                         {"UNITATS", &Resultat_Linia::unitats},
+                                                         {"PORC_MARGE", &Resultat_Linia::porc_marge},
+                                                         {"PREU_UNITARI", &Resultat_Linia::preu_unitari},
+                                                         {"PVP", &Resultat_Linia::pvp},
+                                                         {"IMPORT_NET", &Resultat_Linia::import_net},
+                                                         {"IMPORT_BRUT", &Resultat_Linia::import_brut},
+                                                         {"MARGE", &Resultat_Linia::marge},
+                                                         {"DTE", &Resultat_Linia::dte}}};
+
+std::string Condicio_Linia(const Tipus_Document& tipus, const Lloc_Linia& lloc) {
+  return Condicio_Document(tipus, tipus.lin, lloc.numero, lloc.empresa) + " AND " + tipus.lin.Columna("LIN") + " = " +
+         std::to_string(lloc.lin);
+}
+
+std::string SQL_Linia(const Tipus_Document& tipus, const Lloc_Linia& lloc) {
+  return "SELECT * FROM " + std::string(tipus.lin.nom) + Condicio_Linia(tipus, lloc);
+}
+
+Resultat_Linia Calcular_Linia(const Linia_Entrada& linia, const Taxes_Linia& taxes, Mode_Calcul mode) {
+  return Calcular_Linia(linia.cost, linia.unitats, linia.porc_marge, linia.dte_article, taxes.porc_iva, taxes.porc_re,
+                        linia.preu_unitari, linia.pvp, linia.dte, mode);
+}
+
+Resultat_Linia Valorar_Linia(const Tipus_Document& tipus, const Linia_Entrada& linia, const Taxes_Linia& taxes,
+                             Mode_Calcul mode) {
+  Resultat_Linia resultat = Calcular_Linia(linia, taxes, mode);
+  if (tipus.valorat_al_cost) Valorar_Al_Cost(resultat);
+  return resultat;
+}
+
+Contingut_Linia Llegir_Linia(const Tipus_Document& tipus, const Recordset& fila) {
+  Contingut_Linia linia{fila[tipus.lin.Columna("ARTICLE")].Text(), fila[tipus.lin.Columna("DESCRIPCIO")].Text(), {}};
+  for (const auto& [paper, xifra] : xifres_de_linia)
+    linia.xifres.*xifra = Nul_A_Defecte(fila[tipus.lin.Columna(paper)]).Doble();
+  return linia;
+}
+
+void Posar_Linia(const Tipus_Document& tipus, const Contingut_Linia& linia, Recordset& fila) {
+  const auto posar = [&](const char* paper, const Valor& valor) {
+    if (Te_Columna(tipus, paper)) fila.Set(tipus.lin.Columna(paper), valor);
+  };
+  posar("ARTICLE", linia.article);
+  posar("DESCRIPCIO", linia.descripcio);
+  for (const auto& [paper, xifra] : xifres_de_linia) posar(paper, linia.xifres.*xifra);
+}
+
+void Posar_Linia_Nova(const Tipus_Document& tipus, const Lloc_Linia& lloc, const Contingut_Linia& linia,
+                      Recordset& fila) {
+  fila.AddNew();
+  fila.Set(tipus.lin.Columna("NUMALB"), lloc.numero);
+  fila.Set(tipus.lin.Columna("EMPRESA"), lloc.empresa);
+  fila.Set(tipus.lin.Columna("LIN"), std::int64_t{lloc.lin});
+  Posar_Linia(tipus, linia, fila);
+}
+
 void Afegir_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const Linia_Entrada& linia,
                   Recordset& linies, Document_Obert& obert) {
   const Passos_Document& passos = Passos_De(tipus);
   Demanar_Linia(tipus, cap, linia);
   const Apunt_Linia apunt = passos.apunt == nullptr ? Apunt_Linia() : passos.apunt(cap, linia);
   const std::int16_t numero = Seguent_Linia(tipus, cap.numero, cap.empresa);
-  const Apunt_Estoc estoc = Preparar_Estoc(tipus, cap, linia.article, +1, linia.unitats);
+  const Apunt_Estoc estoc = Preparar_Estoc(tipus, cap, linia.article, {{+1, linia.unitats}});
   if (apunt.abans) apunt.abans();
   Escriure_Linia(tipus, cap, linia, numero, linies);
   if (estoc.demanar) estoc.demanar();
@@ -131,17 +163,16 @@ bool Esborrar_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, co
   const Passos_Document& passos = Passos_De(tipus);
   if (passos.es_pot_esborrar != nullptr && !passos.es_pot_esborrar(cap)) return false;
   if (!Confirmar(paraules, std::to_string(linia.numero))) return false;
-  const std::string condicio = Condicio_Document(tipus, tipus.lin, cap.numero, cap.empresa) + " AND " +
-                               tipus.lin.Columna("LIN") + " = " + std::to_string(linia.numero);
-  const Recordset fila("SELECT * FROM " + std::string(tipus.lin.nom) + condicio, sessio.Connexio_Comuna);
+  const Lloc_Linia lloc{cap.numero, cap.empresa, linia.numero};
+  const Recordset fila(SQL_Linia(tipus, lloc), sessio.Connexio_Comuna);
   if (fila.RecordCount() == 0) Exigir_Document(tipus, cap.numero, cap.empresa);
   if (fila.RecordCount() == 0 || fila[tipus.lin.Columna("ARTICLE")].Text() != linia.article)
     Llancar_Error(errors::concurrencia, std::string(tipus.formulari));
-  const Apunt_Estoc estoc = Preparar_Estoc(tipus, cap, linia.article, -1, linia.unitats);
+  const Apunt_Estoc estoc = Preparar_Estoc(tipus, cap, linia.article, {{-1, linia.unitats}});
   const std::string encara_lliure =
       passos.columna_lligada == nullptr ? std::string() : " AND " + tipus.lin.Columna(passos.columna_lligada) + " = 0";
-  const int tocades =
-      sessio.Connexio_Comuna.Execute("DELETE * FROM " + std::string(tipus.lin.nom) + condicio + encara_lliure);
+  const int tocades = sessio.Connexio_Comuna.Execute("DELETE * FROM " + std::string(tipus.lin.nom) +
+                                                     Condicio_Linia(tipus, lloc) + encara_lliure);
   if (tocades == 0) {
     if (passos.columna_lligada != nullptr) return true;
     Llancar_Error(errors::concurrencia, std::string(tipus.formulari));

@@ -3,7 +3,48 @@
 // the lines, the foot and through the steps whatever they say.
 #pragma once
 
+#include <array>
+
 #include "documents/Documents.h"
+#include "documents/M_Linies.h"
+
+// Where a line stands.
+struct Lloc_Linia {
+  Valor numero;
+  std::string empresa;
+  std::int16_t lin = 0;
+};
+// " WHERE NUMALB_x = n AND EMPRESA_x = 'e' AND LIN_x = l".
+std::string Condicio_Linia(const Tipus_Document& tipus, const Lloc_Linia& lloc);
+std::string SQL_Linia(const Tipus_Document& tipus, const Lloc_Linia& lloc);
+// What it says.
+struct Contingut_Linia {
+  std::string article;
+  std::string descripcio;
+  Resultat_Linia xifres;
+  bool operator==(const Contingut_Linia&) const = default;
+};
+// The figures of a line by the role words of their columns.
+struct Xifra_De_Linia {
+  const char* paper;
+  double Resultat_Linia::*valor;
+};
+extern const std::array<Xifra_De_Linia, 11> xifres_de_linia;
+
+// A typed line under its rates; `mode` says which of its figures steers the others.
+Resultat_Linia Calcular_Linia(const Linia_Entrada& linia, const Taxes_Linia& taxes, Mode_Calcul mode);
+// The same as the kind counts it: where it is valued at cost, the amounts are.
+Resultat_Linia Valorar_Linia(const Tipus_Document& tipus, const Linia_Entrada& linia, const Taxes_Linia& taxes,
+                             Mode_Calcul mode);
+Contingut_Linia Llegir_Linia(const Tipus_Document& tipus, const Recordset& fila);
+// Into the row in edit, passing over the columns that the kind has not.
+void Posar_Linia(const Tipus_Document& tipus, const Contingut_Linia& linia, Recordset& fila);
+// Into a new row, which the caller completes and writes.
+void Posar_Linia_Nova(const Tipus_Document& tipus, const Lloc_Linia& lloc, const Contingut_Linia& linia,
+                      Recordset& fila);
+// What the kind posts for these units; nothing where it keeps no stock. Warns, and reads, before the first write.
+Apunt_Estoc Preparar_Estoc(const Tipus_Document& tipus, const Capcalera_Oberta& cap, const std::string& article,
+                           const std::vector<Unitats_Mogudes>& mogudes);
 
 // Writes a line on the form's line recordset: row, foot, stock, and what the kind does to linked documents. Call it
 // inside a transaction that has not written yet: a warning may be shown before it writes. Raises 1010 when the kind

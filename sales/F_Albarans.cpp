@@ -60,6 +60,7 @@ const Descripcio_Editor& Editor() {
       .imprimir = Imprimir_Document,
       .botons = {{u"B_EMAIL", u"F_STATUS"}},
       .sense_pagaments = "Aquest albarà no pot tenir pagaments!",
+      .detall = u"F_DETALL_LINIA",
   };
   return editor;
 }

@@ -56,6 +56,7 @@ const Descripcio_Editor& Editor() {
       .amaga_entrada = false,
       .imprimir = Imprimir_Document,
       .botons = {{u"B_EMAIL", u"F_STATUS"}},
+      .detall = u"F_DETALL_LINIA",
   };
   return editor;
 }

@@ -6,6 +6,7 @@
 #include "documents/M_Linies_Document.h"
 #include "documents/M_Peu.h"
 #include "payments/M_Flags.h"
+#include "sales/M_Acceptacio.h"
 #include "sales/M_Comandes.h"
 #include "sales/M_Pressupostos.h"
 #include "sales/M_Tipus_Venda.h"
@@ -13,14 +14,12 @@
 
 namespace {
 
-bool Es_Usuari_Sense_Comandes() {
-  return sessio.P_Comandes == "X";
-}
-
-Apunt_Estoc Estoc_D_Albara(const Capcalera_Oberta& cap, const std::string& article, double signe, double unitats) {
-  const Article_Estoc estoc = Preparar_Article_Estoc(article, -signe * unitats);
-  return {.demanar = [estoc] { Demanar_Estoc(estoc); },
-          .fer = [=, numero = cap.numero.Enter()] { Moviment_Albara(signe, estoc, unitats, numero); }};
+Apunt_Estoc Estoc_D_Albara(const Capcalera_Oberta& cap, const std::string& article,
+                           const std::vector<Unitats_Mogudes>& mogudes) {
+  return Preparar_Apunts(article, mogudes, -1,
+                         [numero = cap.numero.Enter()](double signe, const auto& estoc, double unitats) {
+                           Moviment_Albara(signe, estoc, unitats, numero);
+                         });
 }
 
 // The chain is read once: what is written until the walk is known to it.
@@ -123,6 +122,17 @@ bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa) {
 Data_Hora Data_Maxima_Albarans(const std::string& albarans) {
   const Recordset rs("SELECT MAX(DATA_AC) AS DATA FROM (" + albarans + ")", sessio.Connexio_Comuna);
   return rs.RecordCount() > 0 && rs["DATA"].Es_Data() ? rs["DATA"].Data() : Avui();
+}
+
+std::int64_t Cercar_Albara_Obert(const std::string& client, const std::string& empresa) {
+  return Cercar_Document_Obert(tipus_albara, client, empresa);
+}
+
+bool Estat_Albara(std::int64_t numero, const std::string& empresa) {
+  const Recordset rs(
+      "SELECT ESTAT_AC FROM ALBARACAP" + Condicio_Document(tipus_albara, tipus_albara.cap, numero, empresa),
+      sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 && Nul_A_Defecte(rs[0]).Boolea();
 }
 
 void Afegir_Linia_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,

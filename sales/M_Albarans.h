@@ -22,6 +22,9 @@ bool Albara_Bloquejat(std::int64_t numero, const std::string& empresa);
 
 // The latest date of the notes of a statement; today when there is none.
 Data_Hora Data_Maxima_Albarans(const std::string& albarans);
+// The customer's note of today that is still open; 0 without any.
+std::int64_t Cercar_Albara_Obert(const std::string& client, const std::string& empresa);
+bool Estat_Albara(std::int64_t numero, const std::string& empresa);  // true when it is invoiced
 
 // Writes a line on the form's line recordset: row, link and served units of the order, foot, stock and journal.
 // Call it inside a transaction that has not written yet: it may show the warning of the minimum before it writes.

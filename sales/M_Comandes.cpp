@@ -6,6 +6,7 @@
 #include "documents/M_Linies_Document.h"
 #include "payments/M_Flags.h"
 #include "payments/M_Pagaments.h"
+#include "sales/M_Acceptacio.h"
 #include "sales/M_Pressupostos.h"
 #include "sales/M_Tipus_Venda.h"
 #include "stock/M_Magatzems.h"
@@ -39,14 +40,17 @@ void Refer_Comanda(const Capcalera_Oberta& cap, Document_Obert& /*obert*/) {
 // Delivery lines point at the number of a line that is served, and lines of proposals at any. Its neighbour is not
 // asked.
 bool Es_Pot_Moure(const Valor& numero, const std::string& empresa, std::int16_t linia) {
-  const Recordset rs("SELECT SERVIDES_CL FROM COMANDALIN" +
-                         Condicio_Document(tipus_comanda, tipus_comanda.lin, numero, empresa) +
-                         " AND LIN_CL = " + std::to_string(linia) + " AND SERVIDES_CL = 0",
+  const Recordset rs("SELECT SERVIDES_CL FROM COMANDALIN" + Condicio_Linia(tipus_comanda, {numero, empresa, linia}) +
+                         " AND SERVIDES_CL = 0",
                      sessio.Connexio_Comuna);
   return rs.RecordCount() > 0 && !Te_Linies_De_Pressupost(numero.Enter(), empresa);
 }
 
 }  // namespace
+
+double Unitats_Servides(const Recordset& linia) {
+  return Arrodonir(Nul_A_Defecte(linia["SERVIDES_CL"]).Doble(), decimals_unitats);
+}
 
 const Passos_Document passos_comanda = {.columna_que_bloqueja = "SERVIDES",
                                         .apunt = Flags_De_Comanda,
@@ -95,13 +99,34 @@ bool Esborrar_Linia_Comanda(std::int64_t numero, const std::string& empresa, std
 }
 
 void Servir_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::int16_t linia, double unitats) {
-  Recordset rs("SELECT * FROM COMANDALIN" + Condicio_Document(tipus_comanda, tipus_comanda.lin, numero, empresa) +
-                   " AND LIN_CL = " + std::to_string(linia),
-               sessio.Connexio_Comuna, Bloqueig::Optimista);
+  Recordset rs(SQL_Linia(tipus_comanda, {numero, empresa, linia}), sessio.Connexio_Comuna, Bloqueig::Optimista);
   if (rs.RecordCount() == 0) return;
   rs.Set("SERVIDES_CL", Arrodonir(Nul_A_Defecte(rs["SERVIDES_CL"]).Doble() + unitats, decimals_unitats));
   rs.Update();
   Actualitzar_Estat_Comanda(numero, empresa);
+}
+
+std::int64_t Cercar_Comanda_Oberta(const std::string& client, const std::string& empresa) {
+  return Cercar_Document_Obert(tipus_comanda, client, empresa);
+}
+
+bool Linia_Comanda_Servida(std::int64_t numero, const std::string& empresa, std::int16_t linia) {
+  const Recordset rs("SELECT SERVIDES_CL FROM COMANDALIN" + Condicio_Linia(tipus_comanda, {numero, empresa, linia}),
+                     sessio.Connexio_Comuna);
+  return rs.RecordCount() > 0 && Unitats_Servides(rs) > 0;
+}
+
+bool Es_Usuari_Sense_Comandes() {
+  return sessio.P_Comandes == "X";
+}
+
+Lloc_Linia Comanda_De_Linia_Pressupost(std::int64_t numero, const std::string& empresa, std::int16_t linia) {
+  const Recordset rs("SELECT COMANDA_PL, COMANDA_LIN_PL FROM PRESSUPOSTLIN" +
+                         Condicio_Linia(tipus_pressupost, {numero, empresa, linia}),
+                     sessio.Connexio_Comuna);
+  if (rs.RecordCount() == 0) return {0, empresa, 0};
+  return {Nul_A_Defecte(rs["COMANDA_PL"]).Enter(), empresa,
+          static_cast<std::int16_t>(Nul_A_Defecte(rs["COMANDA_LIN_PL"]).Enter())};
 }
 
 void Actualitzar_Estat_Comanda(std::int64_t numero, const std::string& empresa) {

@@ -3,7 +3,7 @@
 // chain.
 #pragma once
 
-#include "documents/Documents.h"
+#include "documents/M_Linies_Document.h"
 
 // What orders do of their own around their lines.
 extern const Passos_Document passos_comanda;
@@ -27,6 +27,16 @@ void Afegir_Linia_Comanda(const Capcalera_Oberta& cap, const Linia_Entrada& lini
 // silence. False when the user said no. Call it inside a transaction that has not written yet.
 bool Esborrar_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::int16_t linia,
                             const std::string& article);
+
+// The customer's order of today that is still open; 0 without any.
+std::int64_t Cercar_Comanda_Oberta(const std::string& client, const std::string& empresa);
+// Units of the line were served, even a part. False for a line that does not exist.
+bool Linia_Comanda_Servida(std::int64_t numero, const std::string& empresa, std::int16_t linia);
+double Unitats_Servides(const Recordset& linia);  // of a row of COMANDALIN
+// The order line that a proposal's line became (of a user without orders: the line of a note); number 0 for none.
+Lloc_Linia Comanda_De_Linia_Pressupost(std::int64_t numero, const std::string& empresa, std::int16_t linia);
+// The user of the session has no orders: proposals become delivery notes.
+bool Es_Usuari_Sense_Comandes();
 
 // Adds units (negative to undo) to SERVIDES_CL and updates the order's state. An order line that does not exist leaves
 // everything as it is.

@@ -12,7 +12,7 @@ namespace {
 
 // The notes that name the invoice.
 std::string Els_Seus_Albarans(std::int64_t numero) {
-  return " WHERE NUMFAC_AC = '" + std::to_string(numero) + "'";
+  return " WHERE NUMFAC_AC = " + Text_SQL(std::to_string(numero));
 }
 
 std::string Origens_De_Factura(const Valor& numero) {
@@ -20,10 +20,12 @@ std::string Origens_De_Factura(const Valor& numero) {
          " GROUP BY EMPRESA_AC";
 }
 
-Apunt_Estoc Estoc_De_Factura(const Capcalera_Oberta& cap, const std::string& article, double signe, double unitats) {
-  const Article_Estoc estoc = Preparar_Article_Estoc(article, -signe * unitats);
-  return {.demanar = [estoc] { Demanar_Estoc(estoc); },
-          .fer = [=, numero = cap.numero.Enter()] { Moviment_Factura(signe, estoc, unitats, numero); }};
+Apunt_Estoc Estoc_De_Factura(const Capcalera_Oberta& cap, const std::string& article,
+                             const std::vector<Unitats_Mogudes>& mogudes) {
+  return Preparar_Apunts(article, mogudes, -1,
+                         [numero = cap.numero.Enter()](double signe, const auto& estoc, double unitats) {
+                           Moviment_Factura(signe, estoc, unitats, numero);
+                         });
 }
 
 Apunt_Linia Flags_De_Factura(const Capcalera_Oberta& cap, const Linia_Entrada& /*linia*/) {

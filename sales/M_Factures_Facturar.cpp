@@ -86,8 +86,9 @@ class Generador {
   }
 
   void Marcar_Albarans() {
-    sessio.Connexio_Comuna.Execute("UPDATE ALBARACAP SET ESTAT_AC = -1, NUMFAC_AC = '" + std::to_string(numero_) +
-                                   "' WHERE EMPRESA_AC = " + empresa_ + " AND NUMALB_AC " + llista_);
+    sessio.Connexio_Comuna.Execute(
+        "UPDATE ALBARACAP SET ESTAT_AC = -1, NUMFAC_AC = " + Text_SQL(std::to_string(numero_)) +
+        " WHERE EMPRESA_AC = " + empresa_ + " AND NUMALB_AC " + llista_);
     Propagar_Flag_Pagaments("F", numero_);
   }
 

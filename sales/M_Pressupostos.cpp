@@ -75,9 +75,7 @@ bool Esborrar_Linia_Pressupost(std::int64_t numero, const std::string& empresa, 
 }
 
 bool Estat_Linia_Pressupost(std::int64_t numero, const std::string& empresa, std::int16_t linia) {
-  const Recordset rs("SELECT ESTAT_PL FROM PRESSUPOSTLIN" +
-                         Condicio_Document(tipus_pressupost, tipus_pressupost.lin, numero, empresa) +
-                         " AND LIN_PL = " + std::to_string(linia),
+  const Recordset rs("SELECT ESTAT_PL FROM PRESSUPOSTLIN" + Condicio_Linia(tipus_pressupost, {numero, empresa, linia}),
                      sessio.Connexio_Comuna);
   return rs.RecordCount() > 0 && Nul_A_Defecte(rs[0]).Boolea();
 }

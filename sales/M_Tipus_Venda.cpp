@@ -1,6 +1,7 @@
 #include "sales/M_Tipus_Venda.h"
 
 #include "payments/M_Pagaments.h"
+#include "sales/M_Acceptacio.h"
 #include "sales/M_Albarans.h"
 #include "sales/M_Comandes.h"
 #include "sales/M_Factures.h"
@@ -22,7 +23,8 @@ const Tipus_Document tipus_pressupost = {
                           "Are you sure to delete Proposal "},
     .refus_esborrar = {"No es pot esborrar el Pressupost ", "¡¡¡ No se puede eliminar el Presupuesto ",
                        "Unable to delete Proposal "},
-    .passos = &passos_pressupost};
+    .passos = &passos_pressupost,
+    .detall = &detall_pressupost};
 
 const Tipus_Document tipus_comanda = {
     .formulari = "F_COMANDA",
@@ -40,7 +42,8 @@ const Tipus_Document tipus_comanda = {
     .crida = &Sessio::Crida_Mestre,
     .pregunta_esborrar = {"Segur d'esborrar la Comanda ", "¿Seguro de eliminar el Pedido ",
                           "Are you sure to delete Order "},
-    .passos = &passos_comanda};
+    .passos = &passos_comanda,
+    .detall = &detall_comanda};
 
 const Tipus_Document tipus_albara = {
     .formulari = "F_ALBARA",
@@ -58,7 +61,8 @@ const Tipus_Document tipus_albara = {
     .crida = &Sessio::Crida_Mestre,
     .pregunta_esborrar = {"Segur d'esborrar l'Albarà ", "¿Seguro de eliminar el Albarán ",
                           "Are you sure to delete Delivery Note "},
-    .passos = &passos_albara};
+    .passos = &passos_albara,
+    .detall = &detall_albara};
 
 const Tipus_Document tipus_factura = {
     .formulari = "F_FACTURA",
@@ -80,7 +84,8 @@ const Tipus_Document tipus_factura = {
     .refus_esborrar = {"No es pot esborrar la Factura ", "¡¡¡ No se puede eliminar la Factura ",
                        "Unable to delete Invoice "},
     .error_estoc = "Error al intentar actualitzar movimientos, stock ...",
-    .passos = &passos_factura};
+    .passos = &passos_factura,
+    .detall = &detall_factura};
 
 void Registrar_Tipus_Venda() {
   for (const Tipus_Document* tipus : {&tipus_pressupost, &tipus_comanda, &tipus_albara, &tipus_factura})

@@ -106,12 +106,13 @@ bool Inici_Aplicacio() {
   }
 }
 
-void Acabar_Aplicacio() {
+bool Acabar_Aplicacio() {
   F_Principal::Unica()->Recordar_Estat();
-  Descarregar_Tots();
+  if (!Descarregar_Tots()) return false;
   Tancar_Recordsets_Informe();
   Tancar_Connexions();
   QCoreApplication::quit();
+  return true;
 }
 
 int Executar_Brollador(int argc, char** argv) {

@@ -244,6 +244,5 @@ bool F_Principal::eventFilter(QObject* objecte, QEvent* event) {
 // A piece of work in the middle is not cut: whoever asked may ask again when it is done.
 void F_Principal::closeEvent(QCloseEvent* event) {
   if (sessio.Entrada_Bloquejada || sessio.Transaccio_Oberta()) return event->ignore();
-  event->accept();
-  Acabar_Aplicacio();
+  event->setAccepted(Acabar_Aplicacio());
 }

@@ -19,15 +19,14 @@
 namespace {
 
 void Canviar_Usuari() {
-  Descarregar_Tots();
+  if (!Descarregar_Tots()) return;
   Habilitar_Menus(false);
   Mostrar_Formulari(QStringLiteral("F_SUBINICI"));
   Traduir_Formulari(QStringLiteral("F_SUBINICI"));
 }
 
 void Canviar_Empresa() {
-  Descarregar_Tots();
-  Demanar_Empresa();
+  if (Descarregar_Tots()) Demanar_Empresa();
 }
 
 void Tancar_Del_Davant() {
@@ -88,7 +87,7 @@ const Entrada_Menu entrades[] = {
     {u"M_FormesPagament", u"M_Mestres", u"Formes &de Pagament", u"F_FORMESPAGAMENTM"},
     {u"M_Venciments", u"M_Mestres", u"&Venciments", u"F_VENCIMENTSM"},
     {u"M_Guio5", u"M_Mestres", ratlla},
-    {u"M_Exit", u"M_Mestres", u"&Sortir", nullptr, Acabar_Aplicacio, "Ctrl+Q"},
+    {u"M_Exit", u"M_Mestres", u"&Sortir", nullptr, [] { Acabar_Aplicacio(); }, "Ctrl+Q"},
     {u"M_Gestio", nullptr, u"&Gestió", submenu},
     {u"M_Pressupostos", u"M_Gestio", u"&Pressupostos", u"F_PRESSUPOSTOSS", nullptr, "Ctrl+1"},
     {u"M_Comandes", u"M_Gestio", u"&Comandes", u"F_COMANDESS", nullptr, "Ctrl+2"},

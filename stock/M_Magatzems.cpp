@@ -101,6 +101,17 @@ void Demanar_Estoc(const Article_Estoc& article) {
     sessio.Connexio_Comuna.Demanar(SQL_Estoc(article.article, article.magatzem), Bloqueig::Optimista);
 }
 
+Apunt_Estoc Preparar_Apunts(
+    const std::string& article, const std::vector<Unitats_Mogudes>& mogudes, double sentit,
+    const std::function<void(double signe, const Article_Estoc& estoc, double unitats)>& moviment) {
+  const Article_Estoc estoc = Preparar_Article_Estoc(article, sentit * Total_Mogut(mogudes));
+  return {.demanar = [estoc] { Demanar_Estoc(estoc); },
+          .fer =
+              [estoc, mogudes, moviment] {
+                for (const auto& [signe, unitats] : mogudes) moviment(signe, estoc, unitats);
+              }};
+}
+
 void Moviment_Albara(double signe, const Article_Estoc& article, double unitats, std::int64_t numalb) {
   Moviment(article, -signe * unitats, "AC", std::to_string(numalb));
 }

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <string>
 
-// Sums of units are rounded to these before they are written or compared.
-inline constexpr int decimals_unitats = 5;
+#include "documents/Documents.h"
+#include "documents/M_Linies.h"
 
 // What every caller prepares before a posting.
 struct Article_Estoc {
@@ -24,6 +24,12 @@ Article_Estoc Preparar_Article_Estoc(const std::string& article, double canvi);
 void Avisar_Sota_Minims(const Article_Estoc& article, double canvi);
 // The balance will be posted soon, in this transaction, which has written already (Connexio::Demanar).
 void Demanar_Estoc(const Article_Estoc& article);
+
+// What a line of a document posts. `sentit` is +1 where its units come into the warehouse and -1 where they leave it;
+// `moviment` posts some of them.
+Apunt_Estoc Preparar_Apunts(
+    const std::string& article, const std::vector<Unitats_Mogudes>& mogudes, double sentit,
+    const std::function<void(double signe, const Article_Estoc& estoc, double unitats)>& moviment);
 
 // signe +1 when a line comes into being, -1 when it goes away.
 void Moviment_Albara(double signe, const Article_Estoc& article, double unitats, std::int64_t numalb);

@@ -85,6 +85,10 @@ void Formulari::closeEvent(QCloseEvent* event) {
   if (descarregat_) return;
   descarregat_ = true;
   Guardar_Event([this] { Deixar_El_Camp_En_Tancar(this); });
+  if (!Desar_En_Tancar()) {
+    descarregat_ = false;
+    return event->ignore();
+  }
   for (const auto* graella : findChildren<Graella*>()) graella->Desar_Amplades();
   Recordar_Mida(this);
   Guardar_Event([this] { Descarregar(); });

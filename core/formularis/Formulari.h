@@ -23,6 +23,8 @@ class Formulari : public QWidget {
   virtual void Descarregar() {}                     // when it is closed; an error is shown and it closes all the same
   virtual void Tornar_A_Obrir() {}                  // it was open already when somebody opened it, maybe on another row
   virtual bool Pot_Tancar() const { return true; }  // false: the window stays, whatever asks it to go
+  // The last work of a form that may refuse to go, once its field has been left. False, after a box: it stays.
+  virtual bool Desar_En_Tancar() { return true; }
   virtual void Aplicar_Drets();  // controls by the rights of the session: what the table of rights says
 
   // A control by its name in any case; null when the form has none.

@@ -214,13 +214,17 @@ void Descarregar_Formulari(const QString& nom) {
   }
 }
 
-void Descarregar_Tots() {
+bool Descarregar_Tots() {
   QStringList noms;
   for (QMdiSubWindow* finestra : Finestra_Principal::Unica()->Area()->subWindowList(QMdiArea::StackingOrder)) {
     noms.prepend(finestra->widget() == nullptr ? QString() : finestra->widget()->objectName());
   }
   for (const auto* amagat : Formularis_Carregats()) noms << amagat->Nom();
-  for (const QString& nom : noms) Descarregar_Formulari(nom);
+  return std::all_of(noms.begin(), noms.end(), [](const QString& nom) {
+    Descarregar_Formulari(nom);
+    const Formulari* encara = Formulari_De_Nom(nom);
+    return encara == nullptr || encara->Es_Tanca() || !encara->Pot_Tancar();
+  });
 }
 
 void Obrir_Formulari(const QString& nom) {

@@ -28,8 +28,9 @@ Formulari* Formulari_De_Nom(const QString& nom);
 std::vector<Formulari*> Formularis_Carregats();
 // Unloads a form (its own unload runs first). Nothing when it is not loaded.
 void Descarregar_Formulari(const QString& nom);
-// All of them, the one in front first.
-void Descarregar_Tots();
+// All of them, the one in front first. False, and no further, when one of them has work that it could not save: it
+// stays.
+bool Descarregar_Tots();
 
 // Every opener, right after the form is shown: texts, parents disabled. Nothing for a name that is none of the system's
 // forms.

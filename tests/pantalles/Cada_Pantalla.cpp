@@ -135,6 +135,15 @@ const Cami camins[] = {
        Obrir(QStringLiteral("F_FACTURAR"));
      },
      true},
+    {"F_DETALL_LINIA",
+     [] {
+       Obrir(QStringLiteral("F_PRESSUPOSTOSM"));
+       Doble_Clic("F_PRESSUPOSTOSM", 0);
+       Graella* linies =
+           Formulari_De_Nom(QStringLiteral("F_PRESSUPOST"))->findChild<Graella*>(QStringLiteral("G_PRESSLIN"));
+       Q_EMIT linies->Doble_Clic(0);
+     },
+     false},
     {"F_PAGDOC",
      [] {
        sessio.Pag_Document = "A";
