@@ -7,39 +7,14 @@
 #include <thread>
 
 #include "tests/regles/Base_Magatzems.h"
+#include "tests/regles/Dos_Terminals.h"
 
-class Dos_Terminals : public M_Magatzems {
- protected:
-  static constexpr int vegades = 40;
-
-  // The same number of times at each of them; `feina` hears which of the two it works for.
-  void Alhora(const std::function<void(bool primer)>& feina) {
-    const std::string adreca = sessio.Connexio_Comuna.Adreca();
-    sessio.Connexio_Comuna.Close();
-    const auto treballar = [&](bool primer) {
-      try {
-        sessio.Connexio_Comuna.Open(adreca);
-        for (int i = 0; i < vegades; ++i) feina(primer);
-        return 0;
-      } catch (const std::exception&) {
-        for (const Caixa_Vista& caixa : pantalla.caixes) fprintf(stderr, "%s\n", caixa.text.c_str());
-        return 1;
-      }
-    };
-    const pid_t altre = fork();
-    if (altre == 0) _exit(treballar(false));
-    const int resultat = treballar(true);
-    int resultat_altre = -1;
-    waitpid(altre, &resultat_altre, 0);
-    EXPECT_EQ(resultat, 0);
-    EXPECT_EQ(resultat_altre, 0);
-  }
-};
+using Dos_Terminals = A_Dos_Terminals<M_Magatzems>;
 
 TEST_F(Dos_Terminals, that_sell_the_same_article_at_once_both_count) {
   Posar_Article({.magatzem = "2"});
   Posar_Estoc("A1", "2", -1);
-  Alhora([](bool) {
+  Alhora([](bool, int) {
     Transaccio transaccio(sessio.Connexio_Comuna);
     Vendre("A1", 1);
     transaccio.Confirmar();
@@ -52,8 +27,9 @@ TEST_F(Dos_Terminals, that_transfer_one_article_in_opposite_directions_both_coun
   Posar_Article({});
   Posar_Estoc("A1", "1", 1000);
   Posar_Estoc("A1", "2", 1000);
-  Alhora(
-      [](bool primer) { Moviment_Traspas(+1, "A1", true, primer ? "1" : "2", primer ? "2" : "1", primer ? 3 : 1, 9); });
+  Alhora([](bool primer, int) {
+    Moviment_Traspas(+1, "A1", true, primer ? "1" : "2", primer ? "2" : "1", primer ? 3 : 1, 9);
+  });
   EXPECT_EQ(Estoc("A1", "1").Doble(), 1000 - 2 * vegades);
   EXPECT_EQ(Estoc("A1", "2").Doble(), 1000 + 2 * vegades);
   EXPECT_EQ(Moviments(), 4 * vegades);
