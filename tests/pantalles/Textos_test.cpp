@@ -31,15 +31,20 @@ QStringList Controls_Amb_Titol(const QString& ui) {
   static const QRegularExpression control(
       QStringLiteral("<widget class=\"(QLabel|QPushButton|QCheckBox|QGroupBox)\" name=\"([^\"]+)\">"));
   QStringList noms;
-  for (auto it = control.globalMatch(ui); it.hasNext();) noms << it.next().captured(2);
+  for (auto it = control.globalMatch(ui); it.hasNext();) {
+    const QString nom = it.next().captured(2);
+    const bool el_diu_una_etiqueta =
+        nom.startsWith(u"CHK_") && ui.contains(QStringLiteral("\"buddy\"><cstring>") + nom + u'<');
+    if (!el_diu_una_etiqueta) noms << nom;
+  }
   return noms;
 }
 
 // Three dots in any language, a picture, what the code writes.
 bool Sense_Paraules(const QString& nom) {
-  static const QStringList noms = {QStringLiteral("B_CLIENT"),   QStringLiteral("B_ARTICLESM"),
-                                   QStringLiteral("B_COMANDES"), QStringLiteral("P_Logo"),
-                                   QStringLiteral("L_EQUIP"),    QStringLiteral("NO_ALBARANS")};
+  static const QStringList noms = {
+      QStringLiteral("B_CLIENT"), QStringLiteral("B_ARTICLESM"), QStringLiteral("B_COMANDES"), QStringLiteral("P_Logo"),
+      QStringLiteral("L_EQUIP"),  QStringLiteral("NO_ALBARANS"), QStringLiteral("NO_DESC_IVA")};
   return noms.contains(nom);
 }
 
