@@ -18,8 +18,8 @@ void Registrar_Formularis();
 // Steps of the start up to the login form. False when it failed: the user has been told, and the process ends.
 bool Inici_Aplicacio();
 
-// Closes all forms, recordsets and connections and ends the process. False when a form stays with work that it could not
-// save: then nothing ends.
+// Closes all forms, recordsets and connections and ends the process. False when a form stays with work that it could
+// not save: then nothing ends.
 bool Acabar_Aplicacio();
 
 // The whole program: one process per terminal, a second start brings the running one to the front. Words that neither
