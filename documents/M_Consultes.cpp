@@ -149,6 +149,15 @@ std::string Condicions(const std::vector<Criteri>& criteris, const Valors_Cerca&
 
 namespace {
 
+// A file's engine would follow a range of numbers into the joined table, and lose the equality that joins it: each head
+// would then look at all of the other's rows in that range. With its sign the column is no key.
+std::string Sense_Clau(std::string condicions, const std::string& columna) {
+  constexpr std::string_view i = " AND ";
+  const auto lloc = condicions.find(std::string(i) + columna + " BETWEEN ");
+  if (lloc != std::string::npos) condicions.insert(lloc + i.size(), "+");
+  return condicions;
+}
+
 // Number, date and name of each head, and sums over the rows of another of its tables.
 std::string Sumes_Per_Document(const Descripcio_Consulta& descripcio, const Taula_Document& taula,
                                const std::string& sumes, const std::string& condicions) {
@@ -160,7 +169,7 @@ std::string Sumes_Per_Document(const Descripcio_Consulta& descripcio, const Taul
   };
   return "SELECT " + grup + ", " + sumes + " FROM " + std::string(cap.nom) + ", " + std::string(taula.nom) + " WHERE " +
          unir("NUMALB") + unir("EMPRESA") + cap.Columna("EMPRESA") + " = " + Text_SQL(sessio.Empresa_Actual) +
-         condicions + " GROUP BY " + grup;
+         Sense_Clau(condicions, cap.Columna("NUMALB")) + " GROUP BY " + grup;
 }
 
 std::string Suma(const std::string& que, const std::string& nom) {
