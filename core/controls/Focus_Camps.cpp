@@ -24,7 +24,7 @@ namespace {
 QPointer<QWidget> retingut;
 Qt::FocusReason motiu_de_sortir = Qt::OtherFocusReason;
 
-// The field whose leaving runs without the focus having gone, and where the user goes.
+// The field whose leaving runs while it still has the focus, the button that was pressed, and whether the form closes.
 const QWidget* deixat_aqui = nullptr;
 const QAbstractButton* boto_premut = nullptr;
 bool es_tanca = false;
@@ -73,7 +73,7 @@ bool Va_D_Un_Camp_A_Un_Altre(const QWidget* camp) {
   return formulari == nullptr || !formulari->Es_Tanca();
 }
 
-// Tells of one kind of focus event of a widget.
+// Runs a routine at one kind of focus event of a widget.
 class Vigia_De_Focus : public QObject {
  public:
   Vigia_De_Focus(QWidget* camp, QEvent::Type tipus, std::function<void()> rutina, Sortida sortida)
@@ -115,7 +115,7 @@ class Vigia_De_Focus : public QObject {
   Sortida sortida_;
 };
 
-// A field is left where it is.
+// Runs what leaving a field runs, although it keeps the focus.
 void Deixar_Aqui(const QWidget* camp, bool amb_feina) {
   if (camp == nullptr || deixat_aqui != nullptr) return;
   deixat_aqui = camp;
@@ -123,14 +123,14 @@ void Deixar_Aqui(const QWidget* camp, bool amb_feina) {
   Vigia_De_Focus::Executar(camp, QEvent::FocusOut, amb_feina);
 }
 
-// A field that the wheel would change.
+// A control whose value the mouse wheel changes.
 bool Canvia_Amb_La_Roda(const QObject* objecte) {
   return qobject_cast<const QComboBox*>(objecte) != nullptr || qobject_cast<const QTabBar*>(objecte) != nullptr ||
          qobject_cast<const Selector_Data*>(objecte) != nullptr || objecte->inherits("QAbstractSpinBox") ||
          objecte->inherits("QSlider") || objecte->inherits("QDial");
 }
 
-// A code is never chosen by a wheel but in its open list: what it stands for may be saved at once.
+// The wheel needs the focus, and a combo of codes its open list: a choice may be saved at once.
 bool Es_Sorda(const QWidget* camp) {
   const QWidget* ara = QApplication::focusWidget();
   const bool hi_es = ara != nullptr && (ara == camp || camp->isAncestorOf(ara));
@@ -150,7 +150,7 @@ class Vigia_De_L_Aplicacio : public QObject {
     }
     if (event->type() != QEvent::Wheel || !Canvia_Amb_La_Roda(objecte)) return false;
     if (!Es_Sorda(static_cast<QWidget*>(objecte))) return false;
-    event->ignore();  // what lies behind scrolls
+    event->ignore();  // the area behind scrolls
     return true;
   }
 };

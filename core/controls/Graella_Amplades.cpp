@@ -13,7 +13,7 @@ constexpr int twips_per_pixel = 15;
 
 }  // namespace
 
-// What the column asks for, or what its title does, with the arrow of the order where there may be one.
+// The width of the description, or that of the title with the sort arrow when it is larger.
 int Graella::Amplada_Propia(int columna) const {
   const int voltant = horizontalHeader()->isSortIndicatorShown() ? 24 : 12;
   const int titol = fontMetrics().horizontalAdvance(model_->Titol(columna)) + voltant;
@@ -24,7 +24,7 @@ int Graella::Amplada_Donada(int columna) const {
   return amplades_[static_cast<std::size_t>(columna)];
 }
 
-// As they are seen, from left to right; -1 none.
+// The first or the last visible column as they stand on the screen; -1 none.
 int Graella::Columna_Visible(bool ultima) const {
   const QHeaderView& capcalera = *horizontalHeader();
   const int quantes = capcalera.count();
@@ -41,7 +41,7 @@ void Graella::Canviada_D_Amplada(int columna, int amplada) {
   Omplir_Amplada();
 }
 
-// One that the user made wider or narrower stays so.
+// The column that takes spare width: the one described so unless the user gave it a width, else the last one.
 int Graella::Columna_Que_Creix() const {
   const auto& columnes = model_->Columnes();
   const auto que = std::ranges::find(columnes, true, &Columna_Graella::creix);

@@ -43,7 +43,7 @@ bool Graella::En_Edicio() const {
   return model_->Fila_En_Edicio() >= 0;
 }
 
-// What the open cell holds counts.
+// What was typed into the open cell enters the row.
 bool Graella::Desar_Fila() {
   if (state() == EditingState && indexWidget(currentIndex()) != nullptr) commitData(indexWidget(currentIndex()));
   if (delegat_->Retingut() != nullptr) return false;
@@ -145,7 +145,7 @@ void Graella::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint co
   QMetaObject::invokeMethod(this, moure, Qt::QueuedConnection);
 }
 
-// As they are seen; none beyond the ends of the row.
+// The visible cell on the left or right; none beyond the ends of the row.
 QModelIndex Graella::Cella_Del_Costat(int pas) const {
   const QHeaderView& capcalera = *horizontalHeader();
   int lloc = capcalera.visualIndex(currentIndex().column());
@@ -180,7 +180,7 @@ int Graella::Primera_Que_S_Escriu() const {
   return Columna_Visible(false);
 }
 
-// The keys of the code of a row that exists are asked for by hand.
+// The code of an existing row opens only by F2 or a click, never by Tab.
 bool Graella::S_Obre_Sola(const QModelIndex& index) const {
   const bool nova = index.row() >= model_->Files();
   return (model_->flags(index) & Qt::ItemIsEditable) != 0 && (nova || !model_->Es_Clau(index.column()));
@@ -199,7 +199,7 @@ void Graella::Saltar(int pas) {
   if (S_Obre_Sola(currentIndex())) QTableView::edit(currentIndex());
 }
 
-// A row that is refused is where the user goes back to.
+// A row that could not be written becomes the current one again.
 void Graella::Deixar_Fila(int fila) {
   const QModelIndex lloc = model_->index(fila, 0);
   if (Desar_Fila()) return currentChanged(currentIndex(), lloc);

@@ -1,4 +1,4 @@
-// Where the user is in a grid, and what its keys do.
+// The current row of a grid, and its keys.
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>

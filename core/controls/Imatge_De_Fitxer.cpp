@@ -10,7 +10,7 @@ namespace {
 
 constexpr qint64 maxim_bytes = 16LL << 20;
 
-// What grew since it was asked is cut, and is no picture then.
+// A file that grows meanwhile is cut at the limit, and no longer a valid picture.
 QByteArray Contingut(const QString& nom) {
   const QFileInfo info(nom);
   if (!info.isFile() || info.size() > maxim_bytes) return {};

@@ -98,7 +98,7 @@ void Posar_Nota(QWidget* camp, const QString& text) {
   nota->Mostrar(text);
 }
 
-// What shows the text of a field.
+// The widget that shows the text of a field.
 QWidget* Cara_De(QWidget* camp) {
   auto* combo = qobject_cast<QComboBox*>(camp);
   return combo != nullptr && combo->isEditable() ? combo->lineEdit() : camp;

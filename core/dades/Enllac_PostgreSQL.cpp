@@ -121,7 +121,7 @@ void Enllac_PostgreSQL::Reconnectar() {
   Configurar();
 }
 
-// Its last words come first, and then the end.
+// Read twice: the server's last message arrives before the end of the connection.
 bool Enllac_PostgreSQL::Segueix_Viu() {
   for (int cops = 0; cops < 2 && Es_Viu(); ++cops) PQconsumeInput(connexio_.get());
   return Es_Viu();

@@ -12,7 +12,7 @@ void Apuntar(int numero, const char* motor, const std::string& paraules, std::st
   Apuntar_Error(numero, motor, text);
 }
 
-// Failures that whoever looks after the machine has to mend: the engine's words say where.
+// Failures that an administrator has to mend, who needs the engine's words.
 bool Es_Per_A_Qui_El_Cuida(Falla falla) {
   return falla == Falla::Altra_Del_Motor || falla == Falla::Disc_Ple || falla == Falla::Base_Malmesa ||
          falla == Falla::Disc_Que_Falla;

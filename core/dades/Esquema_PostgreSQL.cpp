@@ -49,7 +49,7 @@ std::string Traduccio_De_Lletres(std::uint32_t limit) {
   return "translate(lower(t COLLATE \"C\"), '" + lletres.majuscules + "', '" + lletres.plegades + "')";
 }
 
-// Three roads, since a long table costs at every letter: ASCII alone, the Latin letters of Europe, all the rest.
+// Three branches, since a long table costs at every letter: ASCII alone, the Latin letters of Europe, all the rest.
 std::string Funcio_Plegar(const std::string& esquema) {
   constexpr std::uint32_t fi_llati = 0x250;
   std::string ultima_llatina;

@@ -38,7 +38,7 @@ void Retencio_Fitxer::Obrir() {
   Com_La_Base();
 }
 
-// What the mask of this account took away is given back. Only the file's owner can, and only the owner has to.
+// Gives back the rights that this account's umask took away. Only the file's owner can.
 void Retencio_Fitxer::Com_La_Base() const {
   constexpr mode_t llegir_i_escriure = 0666;
   struct stat base {};

@@ -81,8 +81,8 @@ void Vestir(QApplication& aplicacio) {
   aplicacio.installEventFilter(new Text_Pla(&aplicacio));
 }
 
-// What cannot be typed into looks it. A label with a key is drawn in pieces, without the kerning around the underlined
-// letter that its size counts on: it gets that room back.
+// Read-only fields look read-only. A label with a key is drawn in pieces, without the kerning around the underlined
+// letter that its size hint counts on, so it needs some pixels more.
 void Vestir_Formulari(QWidget* formulari) {
   constexpr int entre_lletres = 3;  // pixels
   for (auto* etiqueta : formulari->findChildren<QLabel*>()) {

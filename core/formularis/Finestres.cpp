@@ -36,7 +36,7 @@ QSize Mida_Propia(const Formulari* formulari) {
   return (formulari->sizeHint() + vora).expandedTo(QSize(titol, 0));
 }
 
-// What is inside pages of tabs has been measured before its fonts and texts were there.
+// The contents of tab pages were measured before their fonts and texts were set.
 void Mesurar_De_Nou(const Formulari* formulari) {
   for (auto* peca : formulari->findChildren<QWidget*>()) peca->ensurePolished();
   for (auto* disposicio : formulari->findChildren<QLayout*>()) disposicio->invalidate();
@@ -56,7 +56,7 @@ bool Ocupa_Tot(const QMdiSubWindow* finestra) {
   return finestra->isMaximized() || finestra->isMinimized();
 }
 
-// The menu of the frame says Ctrl+W too: two owners of a key are as good as none.
+// The frame's own menu has Ctrl+W too, which would make the shortcut ambiguous.
 void Treure_Dreceres(QMdiSubWindow* finestra) {
   QMenu* menu = finestra->systemMenu();
   if (menu == nullptr) return;

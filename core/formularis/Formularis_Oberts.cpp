@@ -48,7 +48,7 @@ void Traduir_O_Avisar(const QString& nom) {
     Traduir_Formulari(nom);
   } catch (const Error_Brollador& error) {
     Mostrar_Error(error);
-    sessio.Error_Mostrat = false;  // what fails later is another failure
+    sessio.Error_Mostrat = false;  // a later failure has a box of its own
   }
 }
 

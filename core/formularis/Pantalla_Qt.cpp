@@ -71,7 +71,7 @@ void Fer_Cabre_El_Text(QMessageBox& caixa) {
   quadricula->addWidget(area, fila, columna, files, columnes);
 }
 
-// What the user does, closing a window and ending the program among it.
+// Input, closing a window and ending the program.
 bool Es_Entrada_De_Usuari(QEvent::Type tipus) {
   switch (tipus) {
     case QEvent::Close:
@@ -94,7 +94,7 @@ bool Es_Entrada_De_Usuari(QEvent::Type tipus) {
   }
 }
 
-// Whatever waits for the user, not only the boxes of the rules: a mistake of ours stops at once.
+// A modal window between a first write and its commit would keep other terminals waiting: a programming error.
 void Exigir_Que_No_Esperi_Ningu(const QObject* objecte) {
   const auto* finestra = qobject_cast<const QWidget*>(objecte);
   if (finestra == nullptr || !finestra->isModal()) return;
@@ -163,7 +163,7 @@ void Pantalla_Qt::Bloquejar_Entrada() {
   bloquejada_ = true;
 }
 
-// What was typed during the work is taken out of the queue while it still counts for nothing.
+// What was typed during the work is discarded before the block is lifted.
 void Pantalla_Qt::Alliberar_Entrada() {
   if (!bloquejada_) return;
   QCoreApplication::processEvents();
@@ -173,7 +173,7 @@ void Pantalla_Qt::Alliberar_Entrada() {
 bool Pantalla_Qt::eventFilter(QObject* objecte, QEvent* event) {
   if (event->type() == QEvent::Show) Exigir_Que_No_Esperi_Ningu(objecte);
   if (bloquejada_ && Es_Entrada_De_Usuari(event->type())) {
-    event->ignore();  // a window that asks whether it may close hears no
+    event->ignore();  // a close event: the window stays
     return true;
   }
   return QObject::eventFilter(objecte, event);

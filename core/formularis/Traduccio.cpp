@@ -46,7 +46,7 @@ QObject* Cercar_Control(QWidget* finestra, const QString& nom) {
   return nullptr;
 }
 
-// What puts a text in its place; empty when the control has no such property.
+// Sets the text on its control; empty when the control has no such property.
 using Posada = std::function<void()>;
 
 Posada Posar_Titol(QObject* control, const QString& text, int index) {

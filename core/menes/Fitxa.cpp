@@ -50,7 +50,7 @@ void Fitxa::Boto_Sortir(QPushButton* boto) {
   connect(boto, &QPushButton::clicked, this, [this] { Descarregar_Formulari(Nom()); });
 }
 
-// No edit of a field lasts: nobody else has to be kept from the row meanwhile.
+// Optimistic: every field is saved when it is left, so that no edit lasts.
 void Fitxa::Afegir_Fila(Recordset& fila, const std::string& taula, std::function<std::string()> sentencia,
                         std::function<void()> assegurar) {
   fila.Unique_Table(taula);

@@ -50,7 +50,7 @@ void Fitxa::Acceptar(const Lligam& camp) {
   Mostrar_Descripcions();
 }
 
-// What fails is not left pending.
+// A save that fails leaves no edit pending.
 void Fitxa::Desar() {
   try {
     Escriure();
