@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* imports = "#,##0.00";
 
-// With role words where the columns of a recordset will stand.
+// By role words, which become the columns of a kind.
 constexpr Columna_Graella papers_de_linies[] = {
     {"NUMALB", 0, ""},
     {"EMPRESA", 0, ""},
@@ -40,7 +40,7 @@ constexpr Columna_Graella papers_de_peu[] = {
     {"RE", 1500, "RE", true, imports},     {"IMPORT", 1700, "Import", true, imports},
 };
 
-// A text that stays for as long as the program runs.
+// Keeps a text until the program ends, for descriptions that hold pointers.
 const char* Fixar(std::string text) {
   static std::set<std::string> textos;
   return textos.insert(std::move(text)).first->c_str();

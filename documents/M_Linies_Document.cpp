@@ -34,7 +34,7 @@ void Escriure_Linia(const Tipus_Document& tipus, const Capcalera_Oberta& cap, co
   linies.Update();
 }
 
-// What is wrong with the stock was shown already, and the transaction undone.
+// A stock error was shown where it happened, and its transaction rolled back: it becomes 1010 here.
 void Apuntar(const Tipus_Document& tipus, const Apunt_Estoc& estoc) {
   if (!estoc.fer) return;
   try {
