@@ -95,11 +95,6 @@ const std::vector<const Tipus_Document*>& Tipus_Registrats() {
   return Registre();
 }
 
-const Tipus_Document* Tipus_De_Bloqueig(std::string_view lletra) {
-  const auto tipus = std::ranges::find(Registre(), lletra, &Tipus_Document::lletra_bloqueig);
-  return tipus == Registre().end() ? nullptr : *tipus;
-}
-
 std::optional<Valor> Numero_Escrit(const Tipus_Document& tipus, std::string_view text) {
   const std::size_t primer = text.find_first_not_of(' ');
   if (primer == std::string_view::npos) return std::nullopt;

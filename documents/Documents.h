@@ -135,8 +135,6 @@ class Document_Inexistent : public Error_Brollador {
 // The kinds of this program are told at start, by the folders that know them.
 void Registrar_Tipus(const Tipus_Document& tipus);
 const std::vector<const Tipus_Document*>& Tipus_Registrats();
-// The kind that a code of LOCKS stands for; null for any other code.
-const Tipus_Document* Tipus_De_Bloqueig(std::string_view lletra);
 
 // What may be typed as the number of a document, and what it becomes: a whole number from 1 to 2147483647; or, where
 // numbers are texts, any text that is not empty. Nothing for what is no number.

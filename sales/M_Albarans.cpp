@@ -145,15 +145,3 @@ bool Esborrar_Linia_Albara(std::int64_t numero, const std::string& empresa, std:
   return Esborrar_Linia(tipus_albara, {.numero = numero, .empresa = empresa},
                         {.numero = linia, .article = article, .unitats = unitats});
 }
-
-void Recalcular_Linies_Albara(const Capcalera_Oberta& cap, Document_Obert& obert) {
-  Recalcular_Linies(tipus_albara, cap, obert);
-}
-
-bool Moure_Linia_Albara(std::int64_t numero, const std::string& empresa, std::int16_t linia, bool avall) {
-  return Moure_Linia(tipus_albara, numero, empresa, linia, avall);
-}
-
-bool Esborrar_Albara_Buit(std::int64_t numero, const std::string& empresa) {
-  return Esborrar_Document_Buit(tipus_albara, numero, empresa) == Buit::Esborrat;
-}

@@ -36,10 +36,3 @@ void Afegir_Linia_Albara(const Capcalera_Oberta& cap, const Linia_Entrada& linia
 // nothing is written. Call it inside a transaction that has not written yet.
 bool Esborrar_Linia_Albara(std::int64_t numero, const std::string& empresa, std::int16_t linia,
                            const std::string& article, double unitats);
-// New rates on all lines after a change of customer; the foot is rebuilt. In a transaction of its own unless one is
-// open.
-void Recalcular_Linies_Albara(const Capcalera_Oberta& cap, Document_Obert& obert);
-// Exchanges a line with its neighbour: `avall` towards the end. False when there is none or proposal lines forbid it.
-bool Moure_Linia_Albara(std::int64_t numero, const std::string& empresa, std::int16_t linia, bool avall);
-// On closing: a note without lines and without payments goes. True when it went.
-bool Esborrar_Albara_Buit(std::int64_t numero, const std::string& empresa);

@@ -88,11 +88,6 @@ bool Comanda_Bloquejada(std::int64_t numero, const std::string& empresa) {
   return Bloquejat_Per_Linies(tipus_comanda, numero, empresa);
 }
 
-void Afegir_Linia_Comanda(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
-                          Document_Obert& obert) {
-  Afegir_Linia(tipus_comanda, cap, linia, linies, obert);
-}
-
 bool Esborrar_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::int16_t linia,
                             const std::string& article) {
   return Esborrar_Linia(tipus_comanda, {.numero = numero, .empresa = empresa}, {.numero = linia, .article = article});

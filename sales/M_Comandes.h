@@ -19,10 +19,6 @@ void Esborrar_Comanda(std::int64_t numero, const std::string& empresa);
 // True when the order is served or any of its lines is in part.
 bool Comanda_Bloquejada(std::int64_t numero, const std::string& empresa);
 
-// Writes a line on the form's line recordset; the order stands open again on the form that shows it. Call it inside a
-// transaction. Raises 1010 when the chain of payments is not as it should be, 6, 13 or the engine's.
-void Afegir_Linia_Comanda(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
-                          Document_Obert& obert);
 // Asks, deletes the line and frees the proposal's line that it came from. A line that is served, even in part, stays in
 // silence. False when the user said no. Call it inside a transaction that has not written yet.
 bool Esborrar_Linia_Comanda(std::int64_t numero, const std::string& empresa, std::int16_t linia,

@@ -35,22 +35,6 @@ std::int64_t Crear_Capcalera_Pressupost() {
   return Crear_Capcalera(tipus_pressupost).Enter();
 }
 
-std::int64_t Seguent_Numero_Pressupost(const std::string& empresa) {
-  return Seguent_Numero(tipus_pressupost, empresa).Enter();
-}
-
-std::int16_t Seguent_Linia_Pressupost(std::int64_t numero, const std::string& empresa) {
-  return Seguent_Linia(tipus_pressupost, numero, empresa);
-}
-
-bool Existeix_Pressupost(std::int64_t numero, const std::string& empresa) {
-  return Existeix_Document(tipus_pressupost, numero, empresa);
-}
-
-std::int64_t Comptar_Linies_Pressupost(std::int64_t numero, const std::string& empresa) {
-  return Comptar_Linies(tipus_pressupost, numero, empresa);
-}
-
 void Esborrar_Pressupost(std::int64_t numero, const std::string& empresa) {
   Demanar_Esborrar_Document(tipus_pressupost, numero, empresa);
 }
@@ -61,11 +45,6 @@ int Estat_Bloqueig_Pressupost(std::int64_t numero, const std::string& empresa) {
       "SELECT ESTAT_PC FROM PRESSUPOSTCAP" + Condicio_Document(tipus_pressupost, tipus_pressupost.cap, numero, empresa),
       sessio.Connexio_Comuna);
   return cap.RecordCount() > 0 && Nul_A_Defecte(cap[0]).Boolea() ? 2 : 1;
-}
-
-void Afegir_Linia_Pressupost(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
-                             Document_Obert& obert) {
-  Afegir_Linia(tipus_pressupost, cap, linia, linies, obert);
 }
 
 bool Esborrar_Linia_Pressupost(std::int64_t numero, const std::string& empresa, std::int16_t linia,

@@ -9,19 +9,11 @@
 extern const Passos_Document passos_pressupost;
 
 std::int64_t Crear_Capcalera_Pressupost();
-std::int64_t Seguent_Numero_Pressupost(const std::string& empresa);
-std::int16_t Seguent_Linia_Pressupost(std::int64_t numero, const std::string& empresa);
-bool Existeix_Pressupost(std::int64_t numero, const std::string& empresa);
-std::int64_t Comptar_Linies_Pressupost(std::int64_t numero, const std::string& empresa);
-
 // Asks and deletes a whole proposal: what was made from its lines stays as it is.
 void Esborrar_Pressupost(std::int64_t numero, const std::string& empresa);
 // 2: all its lines are accepted. 1: some are. 0: none.
 int Estat_Bloqueig_Pressupost(std::int64_t numero, const std::string& empresa);
 
-// Writes a line on the form's line recordset. Call it inside a transaction. Raises 6, 13 or the engine's.
-void Afegir_Linia_Pressupost(const Capcalera_Oberta& cap, const Linia_Entrada& linia, Recordset& linies,
-                             Document_Obert& obert);
 // Asks, and deletes the line. One that was accepted stays in silence. False when the user said no. Call it inside a
 // transaction that has not written yet.
 bool Esborrar_Linia_Pressupost(std::int64_t numero, const std::string& empresa, std::int16_t linia,

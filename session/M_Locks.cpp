@@ -74,10 +74,6 @@ void Bloquejar_Per_Tipus(const std::string& document, const std::string& numero)
   sessio.Bloquejos.insert(document);
 }
 
-bool Te_Bloqueig(const std::string& document) {
-  return sessio.Bloquejos.contains(document);
-}
-
 void Alliberar_Per_Tipus(const std::string& document, const std::string& numero) {
   if (sessio.Bloquejos.erase(document) > 0) Desbloquejar_Document(document, sessio.Empresa_Actual, numero);
 }

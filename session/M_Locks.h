@@ -15,7 +15,5 @@ void Registrar_Bloqueig(const std::string& document, const std::string& formular
 // Locks for the form of a kind ("AC", "C", "AM", "P", "F", "PR"); a code that nobody told does nothing. Raises 1010
 // with the form's name as source and "Document en ús!" in the language of the session.
 void Bloquejar_Per_Tipus(const std::string& document, const std::string& numero);
-// This terminal's form of that kind holds a lock for the document that it shows.
-bool Te_Bloqueig(const std::string& document);
 // At the form's unload: releases when the flag is set.
 void Alliberar_Per_Tipus(const std::string& document, const std::string& numero);

@@ -368,9 +368,6 @@ void Recordset::MoveLast() {
 void Recordset::MoveNext() {
   Move(1);
 }
-void Recordset::MovePrevious() {
-  Move(-1);
-}
 void Recordset::Move(std::int64_t files) {
   Move_Des_Del_Primer(d_->posicio + files);
 }

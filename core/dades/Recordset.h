@@ -48,7 +48,6 @@ class Recordset {
   void MoveFirst();
   void MoveLast();
   void MoveNext();
-  void MovePrevious();
   void Move(std::int64_t files);                 // from the current row; past an end leaves Bof or Eof set
   void Move_Des_Del_Primer(std::int64_t files);  // from the first row
   std::int64_t AbsolutePosition() const;         // 1 for the first row, or one of the marks; -1 on an empty set

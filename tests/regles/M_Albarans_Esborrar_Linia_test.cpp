@@ -1,4 +1,5 @@
 // What a deleted line of a delivery note gives back.
+#include "documents/M_Linies_Document.h"
 #include "tests/regles/Base_Albarans.h"
 
 TEST_F(M_Albarans, the_question_names_the_line_in_the_language_of_the_session) {
@@ -127,7 +128,7 @@ TEST_F(Sense_Comandes, a_free_line_goes_and_releases_nothing) {
 
 TEST_F(Sense_Comandes, lines_that_proposals_point_at_do_not_move) {
   Afegir();
-  EXPECT_FALSE(Moure_Linia_Albara(7, empresa_prova, 1, true));
+  EXPECT_FALSE(Moure_Linia(tipus_albara, 7, empresa_prova, 1, true));
   sessio.P_Comandes = "M";
-  EXPECT_TRUE(Moure_Linia_Albara(7, empresa_prova, 1, true));
+  EXPECT_TRUE(Moure_Linia(tipus_albara, 7, empresa_prova, 1, true));
 }

@@ -1,3 +1,4 @@
+#include "documents/M_Linies_Document.h"
 #include "tests/regles/Base_Albarans.h"
 
 TEST_F(M_Albarans, a_line_is_saved_from_its_price_with_the_rates_of_its_type) {
@@ -168,15 +169,15 @@ TEST_F(M_Albarans, an_invoiced_note_can_go_all_the_same) {
 TEST_F(M_Albarans, a_note_left_empty_goes_on_closing_unless_it_holds_payments) {
   Posar_Albara(8);
   Posar_Pagament("A", 8);
-  EXPECT_TRUE(Esborrar_Albara_Buit(7, empresa_prova));
-  EXPECT_FALSE(Esborrar_Albara_Buit(8, empresa_prova));
+  EXPECT_EQ(Esborrar_Document_Buit(tipus_albara, 7, empresa_prova), Buit::Esborrat);
+  EXPECT_EQ(Esborrar_Document_Buit(tipus_albara, 8, empresa_prova), Buit::Es_Queda);
   EXPECT_TRUE(Existeix_Albara(8, empresa_prova));
 }
 
 TEST_F(M_Albarans, a_new_note_closed_at_once_gives_its_number_to_the_next) {
   const std::int64_t numero = Crear_Capcalera_Albara();
   EXPECT_EQ(numero, 8);
-  Esborrar_Albara_Buit(numero, empresa_prova);
+  Esborrar_Document_Buit(tipus_albara, numero, empresa_prova);
   EXPECT_EQ(Seguent_Numero_Albara(empresa_prova), 8);
 }
 
@@ -202,7 +203,7 @@ TEST_F(M_Albarans, lines_change_places_without_changing_themselves) {
   Afegir();
   linia.unitats = 9;
   Afegir();
-  EXPECT_TRUE(Moure_Linia_Albara(7, empresa_prova, 2, false));
+  EXPECT_TRUE(Moure_Linia(tipus_albara, 7, empresa_prova, 2, false));
   EXPECT_EQ(Numero("SELECT UNITATS_AL FROM ALBARALIN WHERE LIN_AL = 1"), 9);
   EXPECT_EQ(Numero("SELECT UNITATS_AL FROM ALBARALIN WHERE LIN_AL = 2"), 4);
 }
@@ -210,7 +211,7 @@ TEST_F(M_Albarans, lines_change_places_without_changing_themselves) {
 TEST_F(M_Albarans, a_customer_without_IVA_takes_the_rates_off_and_leaves_net_price_and_margin) {
   Afegir();
   cap.iva = false;
-  Recalcular_Linies_Albara(cap, obert);
+  Recalcular_Linies(tipus_albara, cap, obert);
   EXPECT_EQ(Camp("PORC_IVA_AL"), 0);
   EXPECT_EQ(Camp("IMPORT_BRUT_AL"), 50);
   EXPECT_EQ(Camp("IMPORT_NET_AL"), 50);
@@ -225,7 +226,7 @@ TEST_F(M_Albarans, a_customer_with_surcharge_puts_it_on_every_line_and_on_a_foot
   Afegir();
   cap.re = true;
   obert.re = true;
-  Recalcular_Linies_Albara(cap, obert);
+  Recalcular_Linies(tipus_albara, cap, obert);
   EXPECT_EQ(Files("SELECT * FROM ALBARALIN WHERE PORC_RE_AL = 5.2 AND IMPORT_BRUT_AL = 63.1"), 2);
   EXPECT_EQ(obert.import, 126.2);
 }
@@ -236,7 +237,7 @@ TEST_F(M_Albarans, lines_take_the_tax_of_their_article_as_it_stands_today_and_VA
   linia.iva_article = "RD";
   Afegir();
   Executar("UPDATE ARTICLES SET IVA_ART = 'SR'");
-  Recalcular_Linies_Albara(cap, obert);
+  Recalcular_Linies(tipus_albara, cap, obert);
   EXPECT_EQ(Numero("SELECT PORC_IVA_AL FROM ALBARALIN WHERE ARTICLE_AL = 'A1'"), 4);
   EXPECT_EQ(Numero("SELECT PORC_IVA_AL FROM ALBARALIN WHERE ARTICLE_AL = 'VAR'"), 21);
   EXPECT_EQ(Files(SQL_Peu(tipus_albara, 7, empresa_prova)), 2);
@@ -245,7 +246,7 @@ TEST_F(M_Albarans, lines_take_the_tax_of_their_article_as_it_stands_today_and_VA
 TEST_F(M_Albarans, a_recalculation_that_fails_leaves_the_lines_as_they_were) {
   Afegir();
   Executar("UPDATE ARTICLES SET IVA_ART = 'ZZ'");
-  EXPECT_EQ(Error_De([&] { Recalcular_Linies_Albara(cap, obert); }).Numero(), errors::tipus);
+  EXPECT_EQ(Error_De([&] { Recalcular_Linies(tipus_albara, cap, obert); }).Numero(), errors::tipus);
   EXPECT_EQ(Camp("PORC_IVA_AL"), 21);
   EXPECT_EQ(Files(SQL_Peu(tipus_albara, 7, empresa_prova)), 1);
   EXPECT_FALSE(sessio.Transaccio_Oberta());

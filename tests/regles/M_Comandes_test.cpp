@@ -1,5 +1,6 @@
 #include "sales/M_Comandes.h"
 
+#include "documents/M_Linies_Document.h"
 #include "sales/M_Tipus_Venda.h"
 #include "tests/regles/Base.h"
 
@@ -102,7 +103,8 @@ class Linies_De_Comanda : public M_Comandes {
   }
   void Afegir() {
     Transaccio transaccio(sessio.Connexio_Comuna);
-    Afegir_Linia_Comanda({.numero = 5, .empresa = empresa_prova, .iva = true, .re = false}, linia, linies, formulari);
+    Afegir_Linia(tipus_comanda, {.numero = 5, .empresa = empresa_prova, .iva = true, .re = false}, linia, linies,
+                 formulari);
     transaccio.Confirmar();
   }
   bool Esborrar(std::int16_t numero) {

@@ -1,6 +1,7 @@
 #include "session/M_Locks.h"
 
 #include "documents/Documents.h"
+#include "stock/M_Tipus_Estoc.h"
 #include "tests/regles/Base.h"
 
 class M_Locks : public Base_Dades {
@@ -106,22 +107,31 @@ TEST_F(M_Locks, each_kind_of_document_has_its_letter_and_its_form) {
                                                          {"AM", "F_ALBMAG"}, {"P", "F_COMANDA"},
                                                          {"F", "F_FACTURA"}, {"PR", "F_PRESSUPOST"}};
   for (const auto& [lletra, formulari] : formularis) {
-    ASSERT_NE(Tipus_De_Bloqueig(lletra), nullptr) << lletra;
-    EXPECT_EQ(Tipus_De_Bloqueig(lletra)->formulari, formulari);
+    ASSERT_TRUE(Bloquejar_Document(lletra, empresa_prova, "7"));
+    const auto refusat = Error_De([&lletra = lletra] { Bloquejar_Per_Tipus(lletra, "7"); });
+    EXPECT_EQ(refusat.Origen(), formulari);
   }
+}
+
+// A supplier's number in other capitals is the same document, and the same lock.
+TEST_F(M_Locks, numbers_that_differ_in_capitals_alone_share_a_lock_as_they_share_a_document) {
+  ASSERT_TRUE(Bloquejar_Document("C", empresa_prova, "a/12"));
+  EXPECT_FALSE(Bloquejar_Document("C", empresa_prova, "A/12"));
+  Executar("INSERT INTO ALBCOMPRACAP (NUMALB_ACC, EMPRESA_ACC) VALUES('a/12', '" + std::string(empresa_prova) + "')");
+  EXPECT_TRUE(Existeix_Document(tipus_albcompra, "A/12", empresa_prova));
 }
 
 TEST_F(M_Locks, another_letter_locks_nothing) {
   Bloquejar_Per_Tipus("ZZ", "7");
-  EXPECT_FALSE(Te_Bloqueig("ZZ"));
+  EXPECT_FALSE(sessio.Bloquejos.contains("ZZ"));
   EXPECT_EQ(Locks(), 0);
 }
 
 TEST_F(M_Locks, a_form_knows_that_it_holds_a_lock_until_it_unloads) {
   Bloquejar_Per_Tipus("AC", "7");
-  EXPECT_TRUE(Te_Bloqueig("AC"));
+  EXPECT_TRUE(sessio.Bloquejos.contains("AC"));
   Alliberar_Per_Tipus("AC", "7");
-  EXPECT_FALSE(Te_Bloqueig("AC"));
+  EXPECT_FALSE(sessio.Bloquejos.contains("AC"));
   EXPECT_EQ(Locks(), 0);
 }
 
@@ -135,7 +145,7 @@ TEST_F(M_Locks, going_to_another_number_takes_the_new_lock_and_releases_the_old_
   Bloquejar_Per_Tipus("AC", "7");
   Bloquejar_Per_Tipus("AC", "8");
   Desbloquejar_Document("AC", empresa_prova, "7");
-  EXPECT_TRUE(Te_Bloqueig("AC"));
+  EXPECT_TRUE(sessio.Bloquejos.contains("AC"));
   Alliberar_Per_Tipus("AC", "8");
   EXPECT_EQ(Locks(), 0);
 }
@@ -144,5 +154,5 @@ TEST_F(M_Locks, a_number_that_is_refused_leaves_the_document_locked) {
   Bloquejar_Per_Tipus("AC", "7");
   ASSERT_TRUE(Bloquejar_Document("AC", empresa_prova, "8"));
   EXPECT_EQ(Error_De([] { Bloquejar_Per_Tipus("AC", "8"); }).Numero(), errors::refusat);
-  EXPECT_TRUE(Te_Bloqueig("AC"));
+  EXPECT_TRUE(sessio.Bloquejos.contains("AC"));
 }

@@ -1,5 +1,6 @@
 #include "sales/M_Pressupostos.h"
 
+#include "documents/M_Linies_Document.h"
 #include "sales/M_Tipus_Venda.h"
 #include "tests/regles/Base.h"
 
@@ -51,9 +52,9 @@ TEST_F(M_Pressupostos, an_accepted_line_stays_in_silence_and_an_open_one_goes) {
   Posar_Linia(2, true);
   EXPECT_TRUE(Esborrar(2));
   EXPECT_EQ(pantalla.caixes.size(), 1U);
-  EXPECT_EQ(Comptar_Linies_Pressupost(5, empresa_prova), 2);
+  EXPECT_EQ(Comptar_Linies(tipus_pressupost, 5, empresa_prova), 2);
   EXPECT_TRUE(Esborrar(1));
-  EXPECT_EQ(Comptar_Linies_Pressupost(5, empresa_prova), 1);
+  EXPECT_EQ(Comptar_Linies(tipus_pressupost, 5, empresa_prova), 1);
 }
 
 TEST_F(M_Pressupostos, the_state_of_a_line_is_that_of_its_row) {
@@ -72,7 +73,8 @@ TEST_F(M_Pressupostos, a_new_line_is_open_and_opens_the_proposal_on_the_form) {
   linia.unitats = 2;
   linia.preu_unitari = 10;
   Transaccio transaccio(sessio.Connexio_Comuna);
-  Afegir_Linia_Pressupost({.numero = 5, .empresa = empresa_prova, .iva = true, .re = false}, linia, linies, formulari);
+  Afegir_Linia(tipus_pressupost, {.numero = 5, .empresa = empresa_prova, .iva = true, .re = false}, linia, linies,
+               formulari);
   transaccio.Confirmar();
   EXPECT_EQ(formulari.estat, false);
   EXPECT_EQ(formulari.import, 24.2);
