@@ -25,7 +25,7 @@ F_Client::F_Client() : Fitxa(QStringLiteral("F_Client"), "CLIENTS"), ui_(std::ma
   Seguir_CP(ui_->TXT_CP_ENV_CLI, ui_->TXT_LOCALITAT_ENV_CLI);
   Descriure(ui_->TXT_VENCIMENT_CLI, ui_->NO_DESCRIPCIO_VEN, referencia_venciments);
   ui_->G_AlbLinCliM->Columnes(columnes_vendes);
-  // What follows payments comes with them.
+  // Nothing fills the tab of payments.
   ui_->G_PagCli->setEnabled(false);
   ui_->B_Pagaments->setEnabled(false);
   ui_->B_COM_SERV->setEnabled(false);
@@ -67,7 +67,7 @@ void F_Client::Abans_De_Desar() {
   }
 }
 
-// What a customer of the new code that was deleted has left is nobody's.
+// A deleted customer of the new code may have left its additional data.
 void F_Client::Abans_D_Escriure() {
   if (!dades_.State()) return;
   const std::string abans = dades_.Valor_De_Fila(0, dades_.Index_Camp("NIF_CLID")).Text();

@@ -71,7 +71,7 @@ std::string Nou_Client() {
                          {"NOM_COMERCIAL_CLI", nom},
                          {"VENCIMENT_CLI", "NO"},
                          {"IVA_CLI", true}});
-  // A customer of that code that was deleted has left its row: it is nobody's now.
+  // A deleted customer of that code may have left its row.
   sessio.Connexio_Comuna.Execute("DELETE * FROM CLIENTS_DADES WHERE NIF_CLID = " + Text_SQL(codi));
   Crear_Fila("CLIENTS_DADES", {{"NIF_CLID", codi}, {"CLIENT_DESC_CLID", nom}});
   transaccio.Confirmar();
