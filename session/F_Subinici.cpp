@@ -11,7 +11,7 @@
 
 namespace {
 
-// What a login sets in motion once user, language and company are known.
+// The steps after a login, once user, language and company are known.
 void Obrir_Sessio() {
   Habilitar_Menus(true);
   Traduir_Formulari(QStringLiteral("F_PRINCIPAL"));

@@ -36,7 +36,7 @@ std::string Carpeta_Dades_Usuari() {
   return std::string(casa ? casa : usuari ? usuari->pw_dir : "") + dades_en_una_casa;
 }
 
-// The same for every way to write it.
+// One spelling of a path that can be written in several ways.
 std::string Cami_Unic(const std::string& cami) {
   std::error_code error;
   const std::filesystem::path unic = std::filesystem::weakly_canonical(cami, error);

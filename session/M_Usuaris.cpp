@@ -25,7 +25,7 @@ constexpr std::array<Dret, 10> drets = {{{"P_CLIENTS", &Sessio::P_Clients},
                                          {"P_ALBARANS", &Sessio::P_Albarans},
                                          {"P_FACTURES", &Sessio::P_Factures}}};
 
-// The right behind each entry of the menu. That companies hang on the right over articles is settled.
+// The right behind each entry of the menu: companies go by the right over articles.
 struct Entrada_Amb_Dret {
   const char* entrada;
   std::string Sessio::*lletra;
