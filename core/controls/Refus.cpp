@@ -11,11 +11,10 @@
 
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Controls.h"
+#include "core/formularis/Aparenca.h"
 #include "core/formularis/Formulari.h"
 
 namespace {
-
-const QColor tinta_de_refus(0xB0, 0x20, 0x20);
 
 QString Paraules_De(const QWidget* camp) {
   if (qobject_cast<const Camp_Numeric*>(camp) != nullptr)
@@ -41,7 +40,7 @@ class Nota : public QLabel {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     QPalette paleta = palette();
-    paleta.setColor(QPalette::WindowText, tinta_de_refus);
+    paleta.setColor(QPalette::WindowText, Tinta_De_Refus(paleta));
     setPalette(paleta);
     QLayout* disposicio = formulari->layout();
     if (auto* graella = qobject_cast<QGridLayout*>(disposicio)) {
@@ -112,11 +111,7 @@ class Refus : public QObject {
         motiu_(std::move(motiu)),
         ajuda_(camp->toolTip()),
         paleta_(Cara_De(camp)->palette()) {
-    QPalette paleta = paleta_;
-    paleta.setColor(QPalette::Base, QColor(0xFB, 0xE4, 0xE4));
-    paleta.setColor(QPalette::Text, tinta_de_refus);
-    paleta.setColor(QPalette::Highlight, tinta_de_refus);
-    Cara_De(camp)->setPalette(paleta);
+    Cara_De(camp)->setPalette(Paleta_De_Refus(paleta_));
     camp->setToolTip(Qt::mightBeRichText(motiu_) ? motiu_.toHtmlEscaped() : motiu_);
     if (auto* linia = qobject_cast<QLineEdit*>(Cara_De(camp))) {
       connect(linia, &QLineEdit::textChanged, this, [camp] { Treure_Refus(camp); });

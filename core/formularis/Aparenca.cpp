@@ -118,6 +118,19 @@ QColor Fons_De_L_Area() {
                              : QColor(0xC9, 0xD3, 0xDC);
 }
 
+QPalette Paleta_De_Refus(QPalette paleta) {
+  const bool fosca = Es_Fosca(paleta);
+  paleta.setColor(QPalette::Base, fosca ? QColor(0x5A, 0x26, 0x26) : QColor(0xFB, 0xE4, 0xE4));
+  paleta.setColor(QPalette::Text, fosca ? QColor(0xFF, 0xDC, 0xDC) : QColor(0xB0, 0x20, 0x20));
+  paleta.setColor(QPalette::Highlight, QColor(0xB0, 0x20, 0x20));
+  paleta.setColor(QPalette::HighlightedText, Qt::white);
+  return paleta;
+}
+
+QColor Tinta_De_Refus(const QPalette& paleta) {
+  return Es_Fosca(paleta) ? QColor(0xFF, 0x9A, 0x9A) : QColor(0xB0, 0x20, 0x20);
+}
+
 QVariant Fons_Estil(const QString& estil) {
   const Estil_Fila* trobat = Cercar_Estil(estil);
   return trobat == nullptr ? QVariant() : trobat->fons.Ara();

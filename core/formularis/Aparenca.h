@@ -20,6 +20,10 @@ void Vestir_Taula(QTableView& taula);
 // Behind the forms.
 QColor Fons_De_L_Area();
 
+// The look of a field that refuses what it holds, and the ink of the words that say why, in a palette of the desktop.
+QPalette Paleta_De_Refus(QPalette paleta);
+QColor Tinta_De_Refus(const QPalette& paleta);
+
 // The look of a row of a grid by the name of its style; nothing for an unknown name.
 QVariant Fons_Estil(const QString& estil);
 QVariant Tinta_Estil(const QString& estil);

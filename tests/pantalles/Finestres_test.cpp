@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QTest>
+#include <cmath>
 
 #include "core/dades/Espera.h"
 #include "core/formularis/Aparenca.h"
@@ -261,6 +262,27 @@ TEST(Paletes, A_dark_desktop_is_followed) {
   EXPECT_EQ(Paleta_Per(fosca).color(QPalette::Base), fosca.color(QPalette::Base));
   EXPECT_LT(Paleta_Per(fosca).color(QPalette::Window).lightness(), 128);
   EXPECT_EQ(Paleta_Per(QPalette(Qt::white)).color(QPalette::Base), QColor(Qt::white));
+}
+
+// The ratio of the lighter to the darker one, from 1 to 21; small letters want 4.5.
+static double Contrast(const QColor& un, const QColor& altre) {
+  const auto llum = [](const QColor& color) {
+    const auto lineal = [](double part) {
+      return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * lineal(color.redF()) + 0.7152 * lineal(color.greenF()) + 0.0722 * lineal(color.blueF()) + 0.05;
+  };
+  return std::max(llum(un), llum(altre)) / std::min(llum(un), llum(altre));
+}
+
+TEST(Paletes, A_refused_field_and_its_reason_can_be_read_on_both) {
+  for (const QPalette& escriptori : {QPalette(Qt::white), QPalette(QColor(53, 53, 53), QColor(45, 45, 45))}) {
+    const QPalette paleta = Paleta_Per(escriptori);
+    const QPalette camp = Paleta_De_Refus(paleta);
+    EXPECT_GT(Contrast(camp.color(QPalette::Text), camp.color(QPalette::Base)), 4.5);
+    EXPECT_GT(Contrast(camp.color(QPalette::HighlightedText), camp.color(QPalette::Highlight)), 4.5);
+    EXPECT_GT(Contrast(Tinta_De_Refus(paleta), paleta.color(QPalette::Window)), 4.5);
+  }
 }
 
 TEST(Paletes, Rows_and_drawings_can_be_read_on_both) {
