@@ -1,11 +1,11 @@
 // prova_talls [--seed S] [N]
 //
-// Kills a terminal N times (100) at random moments while it adds and deletes lines of delivery notes and payments, and
-// invoices notes and frees them, now on the real screens, now through the rules alone, which write faster. Looks after
-// each kill whether the file is sound and lines, foot, stock, journal, served units, payment flags and invoices agree.
-// With BROLLADOR_MOTOR=postgres all of it is on a server, which is killed and started again every third time, under the
-// terminal at work. Prints the seed, what did not agree, how many kills fell in the middle of a write (of a file), and
-// `N passed, N failed`.
+// Kills a terminal N times (100) at random moments while it adds and deletes lines of delivery notes and payments,
+// passes lines of a proposal on and back, invoices notes and frees them, now on the real screens, now through the rules
+// alone, which write faster. Looks after each kill whether the file is sound and lines, foot, stock, journal, served
+// units, states, payment flags and invoices agree. With BROLLADOR_MOTOR=postgres all of it is on a server, which is
+// killed and started again every third time, under the terminal at work. Prints the seed, what did not agree, how many
+// kills fell in the middle of a write (of a file), and `N passed, N failed`.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>

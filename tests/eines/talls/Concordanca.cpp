@@ -25,29 +25,43 @@ void Exigir_Iguals(Queixes& queixes, const std::string& que, double vist, double
   queixes.push_back(que + ": " + Numero_SQL(vist) + " instead of " + Numero_SQL(esperat));
 }
 
-std::string Files_Del_Peu(std::int64_t nota) {
-  Recordset rs("SELECT PORC_IVA_AP, TIPUS_IVA_AP, BASE_AP, IVA_AP, PORC_RE_AP, RE_AP, IMPORT_AP FROM ALBARAPEU" +
-                   Condicio_Document(tipus_albara, tipus_albara.peu, nota, empresa) + " ORDER BY PORC_IVA_AP",
-               sessio.Connexio_Comuna);
+// A document and its tables.
+struct Paper {
+  const Tipus_Document& tipus;
+  std::int64_t numero;
+  std::string Nom() const { return std::string(tipus.cap.nom) + " " + std::to_string(numero); }
+  std::string Peu(const std::string& que) const {
+    return "SELECT " + que + " FROM " + std::string(tipus.peu.nom) +
+           Condicio_Document(tipus, tipus.peu, numero, empresa);
+  }
+};
+
+std::string Files_Del_Peu(const Paper& paper) {
   std::string text;
+  Recordset rs(paper.Peu("*") + " ORDER BY " + paper.tipus.peu.Columna("PORC_IVA"), sessio.Connexio_Comuna);
   for (; !rs.Eof(); rs.MoveNext()) {
-    for (int i = 0; i < 7; ++i) text += rs[i].Text() + " ";
+    for (const char* camp : {"PORC_IVA", "TIPUS_IVA", "BASE", "IVA", "PORC_RE", "RE", "IMPORT"})
+      text += rs[paper.tipus.peu.Columna(camp)].Text() + " ";
     text += "/ ";
   }
   return text;
 }
 
 // The foot, against the one that the lines give when it is made anew; the new one is thrown away.
-void Comparar_Peu(Queixes& queixes, std::int64_t nota) {
-  const std::string desat = Files_Del_Peu(nota);
-  const double base = Numero("SELECT SUM(BASE_AP) AS S FROM ALBARAPEU WHERE NUMALB_AP = " + std::to_string(nota));
-  const double net = Numero("SELECT SUM(IMPORT_NET_AL) AS S FROM ALBARALIN WHERE NUMALB_AL = " + std::to_string(nota));
-  Exigir_Iguals(queixes, "bases of note " + std::to_string(nota) + " against its lines", base, net);
+void Comparar_Peu(Queixes& queixes, const Paper& paper) {
+  const Tipus_Document& tipus = paper.tipus;
+  const std::string desat = Files_Del_Peu(paper);
+  const double base = Numero(paper.Peu("SUM(" + tipus.peu.Columna("BASE") + ")"));
+  const double net = Numero("SELECT SUM(" + tipus.lin.Columna("IMPORT_NET") + ") FROM " + std::string(tipus.lin.nom) +
+                            Condicio_Document(tipus, tipus.lin, paper.numero, empresa));
+  Exigir_Iguals(queixes, "bases of " + paper.Nom() + " against its lines", base, net);
+  const double re = Numero("SELECT " + tipus.cap.Columna("RE") + " FROM " + std::string(tipus.cap.nom) +
+                           Condicio_Document(tipus, tipus.cap, paper.numero, empresa));
   const Transaccio provisional(sessio.Connexio_Comuna);
-  Buidar_Peu(tipus_albara, nota, empresa);
-  Calcular_Peu_Document(tipus_albara, nota, empresa, nota % 2 == 0 ? 1 : 0);
-  const std::string refet = Files_Del_Peu(nota);
-  if (desat != refet) queixes.push_back("foot of note " + std::to_string(nota) + ": " + desat + "instead of " + refet);
+  Buidar_Peu(tipus, paper.numero, empresa);
+  Calcular_Peu_Document(tipus, paper.numero, empresa, -re);
+  const std::string refet = Files_Del_Peu(paper);
+  if (desat != refet) queixes.push_back("foot of " + paper.Nom() + ": " + desat + "instead of " + refet);
 }
 
 void Comparar_Diari(Queixes& queixes, std::int64_t nota) {
@@ -117,6 +131,48 @@ void Comparar_Flags(Queixes& queixes) {
   }
 }
 
+// What the lines of the proposal became: an order's line each, in documents that have lines, with their feet and their
+// states.
+void Comparar_Acceptades(Queixes& queixes) {
+  double acceptades = 0;
+  Recordset rs("SELECT LIN_PL, ESTAT_PL, COMANDA_PL, COMANDA_LIN_PL FROM PRESSUPOSTLIN", sessio.Connexio_Comuna);
+  for (; !rs.Eof(); rs.MoveNext()) {
+    const bool acceptada = rs["ESTAT_PL"].Boolea();
+    if (acceptada) ++acceptades;
+    if (acceptada != (rs["COMANDA_PL"].Enter() != 0))
+      queixes.push_back("line " + rs["LIN_PL"].Text() + " names order " + rs["COMANDA_PL"].Text());
+    Exigir_Iguals(queixes, "order lines of line " + rs["LIN_PL"].Text(),
+                  Numero("SELECT COUNT(*) AS N FROM COMANDALIN WHERE NUMALB_CL = " + rs["COMANDA_PL"].Text() +
+                         " AND LIN_CL = " + rs["COMANDA_LIN_PL"].Text()),
+                  acceptada ? 1 : 0);
+  }
+  const std::string nova = " > " + std::to_string(comandes);
+  Exigir_Iguals(queixes, "lines of orders", Numero("SELECT COUNT(*) AS N FROM COMANDALIN WHERE NUMALB_CL" + nova),
+                acceptades);
+  for (const std::int64_t comanda : Numeros("SELECT NUMALB_CC FROM COMANDACAP WHERE NUMALB_CC" + nova)) {
+    const Paper paper{tipus_comanda, comanda};
+    Comparar_Peu(queixes, paper);
+    const std::string seves = " FROM COMANDALIN WHERE NUMALB_CL = " + std::to_string(comanda);
+    if (Numero("SELECT COUNT(*) AS N" + seves) == 0) queixes.push_back(paper.Nom() + " is empty");
+    Exigir_Iguals(queixes, "state of " + paper.Nom(),
+                  Numero("SELECT ESTAT_CC FROM COMANDACAP WHERE NUMALB_CC = " + std::to_string(comanda)),
+                  Numero("SELECT COUNT(*) AS N" + seves + " AND UNITATS_CL > SERVIDES_CL") == 0 ? -1 : 0);
+  }
+}
+
+// The notes that were made for lines of orders go with their last one.
+void Comparar_Entregues(Queixes& queixes) {
+  const std::string nova = " > " + std::to_string(ultima_per_facturar);
+  for (const std::int64_t nota : Numeros("SELECT NUMALB_AC FROM ALBARACAP WHERE NUMALB_AC" + nova)) {
+    const Paper paper{tipus_albara, nota};
+    Comparar_Peu(queixes, paper);
+    if (Comptar_Linies(tipus_albara, nota, empresa) == 0) queixes.push_back(paper.Nom() + " is empty");
+  }
+  for (Recordset rs("SELECT DISTINCT DOCUMENTO_MOV FROM MOVIMIENTOS WHERE TIPO_MOV = 'AC'", sessio.Connexio_Comuna);
+       !rs.Eof(); rs.MoveNext())
+    Comparar_Diari(queixes, Valor(rs[0].Text()).Enter());
+}
+
 // A note is marked when its lines stand in the invoice that it names, and the other way round; the flag stands with one
 // of them.
 void Comparar_Factures(Queixes& queixes) {
@@ -157,12 +213,14 @@ std::vector<std::string> Discordances() {
     if (!dany.empty()) queixes.push_back(connexio->Adreca() + ": " + dany);
   }
   for (int nota = 1; nota <= notes; ++nota) {
-    Comparar_Peu(queixes, nota);
+    Comparar_Peu(queixes, {tipus_albara, nota});
     Comparar_Diari(queixes, nota);
   }
   for (const Article_Prova& article : Articles()) Comparar_Estoc(queixes, article);
   Comparar_Servides(queixes);
   Comparar_Flags(queixes);
+  Comparar_Acceptades(queixes);
+  Comparar_Entregues(queixes);
   Comparar_Factures(queixes);
   return queixes;
 }

@@ -45,6 +45,19 @@ void Crear_Documents(Connexio& comuna) {
   }
 }
 
+void Crear_Pressupost(Connexio& comuna) {
+  const std::string numero = std::to_string(pressupost);
+  comuna.Execute("INSERT INTO CLIENTS (NIF_CLI, RAO_SOCIAL_CLI, IVA_CLI) VALUES ('C2', 'Qui demana preus', -1)");
+  comuna.Execute("INSERT INTO PRESSUPOSTCAP (NUMALB_PC, EMPRESA_PC, DATA_PC, CLIENT_PC, IVA_PC) VALUES (" + numero +
+                 ", 'B00000000', #3/1/2011#, 'C2', -1)");
+  for (std::size_t linia = 1; linia <= Articles().size(); ++linia)
+    comuna.Execute(
+        "INSERT INTO PRESSUPOSTLIN (NUMALB_PL, EMPRESA_PL, LIN_PL, ARTICLE_PL, UNITATS_PL, PREU_UNITARI_PL, "
+        "PORC_IVA_PL, IMPORT_NET_PL, IMPORT_BRUT_PL) VALUES (" +
+        numero + ", 'B00000000', " + std::to_string(linia) + ", " + Text_SQL(Articles()[linia - 1].codi) +
+        ", 2, 50, 21, 100, 121)");
+}
+
 // Lines of no article, which move no stock.
 void Crear_Notes_Per_Facturar(Connexio& comuna) {
   for (int nota = primera_per_facturar; nota <= ultima_per_facturar; ++nota) {
@@ -80,6 +93,7 @@ void Crear_Magatzem(const Lloc& lloc) {
   Crear_Articles(comuna);
   Crear_Documents(comuna);
   Crear_Notes_Per_Facturar(comuna);
+  Crear_Pressupost(comuna);
   transaccio.Confirmar();
 }
 

@@ -13,6 +13,8 @@ constexpr const char* empresa = "B00000000";
 constexpr int primera_per_facturar = 101;
 constexpr int ultima_per_facturar = 104;
 constexpr int linies_per_facturar = 3;
+// A proposal whose lines, one of each article, are accepted, served, taken back and discarded.
+constexpr int pressupost = 1;
 constexpr int notes = 6;              // delivery notes, from 1
 constexpr int comandes = 2;           // orders, from 1; a line of each article
 constexpr double estoc_inicial = 40;  // units of each article that keeps stock

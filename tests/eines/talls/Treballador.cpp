@@ -7,7 +7,9 @@
 #include "documents/M_Peu.h"
 #include "payments/M_Flags.h"
 #include "payments/M_Pagaments.h"
+#include "sales/M_Acceptacio.h"
 #include "sales/M_Albarans.h"
+#include "sales/M_Comandes.h"
 #include "sales/M_Consultes_Venda.h"
 #include "sales/M_Factures.h"
 #include "sales/M_Tipus_Venda.h"
@@ -40,6 +42,7 @@ class Treballador {
   void Un_Pas() {
     if (Qualsevol(0, 4) == 0) return Pagar();
     if (Qualsevol(0, 3) == 0) return Facturar_O_Desfer();
+    if (Qualsevol(0, 1) == 0) return Passar_Una_Linia();
     const std::int64_t nota = Qualsevol(1, notes);
     const std::int64_t linies = Comptar_Linies_Albara(nota, empresa);
     if (linies > 0 && (linies > 8 || Qualsevol(0, 2) == 0)) {
@@ -125,6 +128,29 @@ class Treballador {
                                 .text_y = std::to_string(ultima_per_facturar)};
     Facturar({.albarans = Consulta_Albarans({{"TXT_ALBARA", numeros}}, true) + " AND ESTAT_AC = 0",
               .numero = std::to_string(Seguent_Factura())});
+  }
+
+  // A line of the proposal goes on its way, or back: to an order, from there to a note. A shortage of stock stops it.
+  void Passar_Una_Linia() {
+    sessio.Error_Mostrat = false;
+    const auto lin = static_cast<std::int16_t>(Qualsevol(1, static_cast<int>(Articles().size())));
+    const Lloc_Linia comanda = Comanda_De_Linia_Pressupost(pressupost, empresa, lin);
+    const auto linia = [](const Tipus_Document& tipus, const Valor& numero, std::int16_t quina) {
+      return Linia_Oberta(tipus, {numero, empresa, true, false}, {"C2", "Qui demana preus"}, quina).Linia();
+    };
+    try {
+      if (comanda.lin == 0) {
+        Acceptar_Linia_Pressupost(linia(tipus_pressupost, pressupost, lin));
+      } else if (Linia_Comanda_Servida(comanda.numero.Enter(), empresa, comanda.lin)) {
+        Retirar_Linia_Servida(linia(tipus_comanda, comanda.numero, comanda.lin));
+      } else if (Qualsevol(0, 1) == 0) {
+        Servir_Linia_Sencera(linia(tipus_comanda, comanda.numero, comanda.lin));
+      } else {
+        Descartar_Linia_Pressupost(linia(tipus_pressupost, pressupost, lin));
+      }
+    } catch (const Error_Brollador& error) {
+      if (error.Numero() != errors::refusat) throw;
+    }
   }
 
   void Esborrar_Una_Linia(std::int64_t nota) {

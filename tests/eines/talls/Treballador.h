@@ -1,5 +1,5 @@
-// The terminal that is killed: adds and deletes lines of delivery notes and payments, and invoices notes, through the
-// rules, as the editor does, until its end comes from outside.
+// The terminal that is killed: adds and deletes lines of delivery notes and payments, passes lines of a proposal on and
+// back, and invoices notes, through the rules, as the screens do, until its end comes from outside.
 #pragma once
 
 #include <cstdint>
