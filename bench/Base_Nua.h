@@ -43,6 +43,7 @@ class Sentencia_Nua {
   std::int64_t Enter(int columna) const { return sqlite3_column_int64(sentencia_, columna); }
   double Doble(int columna) const { return sqlite3_column_double(sentencia_, columna); }
   std::string Text(int columna) const;
+  int Camps() const { return sqlite3_column_count(sentencia_); }
 
  private:
   void Lligar(int lloc, double valor) { sqlite3_bind_double(sentencia_, lloc, valor); }

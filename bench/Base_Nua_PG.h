@@ -24,6 +24,7 @@ class Sentencia_Nua_PG {
   // Runs it; raises when it fails.
   Sentencia_Nua_PG& Amb(std::initializer_list<std::string> valors);
   int Files() const { return PQntuples(resultat_.get()); }
+  int Camps() const { return PQnfields(resultat_.get()); }
   std::string Text(int columna, int fila = 0) const { return PQgetvalue(resultat_.get(), fila, columna); }
   double Doble(int columna) const { return std::stod(Text(columna)); }
 

@@ -3,9 +3,8 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "bench/Base_Nua.h"
-#include "bench/Base_Nua_PG.h"
 #include "bench/Mesura.h"
+#include "bench/Motors_Nus.h"
 #include "bench/Nota_Oberta.h"
 #include "sales/M_Consultes_Venda.h"
 #include "sales/M_Factures.h"
@@ -44,26 +43,6 @@ void Sembrar() {
   }
   transaccio.Confirmar();
 }
-
-// The same statements by hand on either engine.
-struct Amb_SQLite {
-  using Base = Base_Nua;
-  using Sentencia = Sentencia_Nua;
-  template <class... Textos>
-  static void Fer(Sentencia& sentencia, const Textos&... textos) {
-    sentencia.Amb(std::string_view(textos)...).Executar();
-  }
-  static void Acabar(Base& base) { base.Reposar(); }
-};
-struct Amb_PG {
-  using Base = Base_Nua_PG;
-  using Sentencia = Sentencia_Nua_PG;
-  template <class... Textos>
-  static void Fer(Sentencia& sentencia, const Textos&... textos) {
-    sentencia.Amb({std::string(textos)...});
-  }
-  static void Acabar(Base& /*base*/) {}
-};
 
 template <class Motor>
 class Factures_Nues {

@@ -40,4 +40,5 @@ std::vector<Figura> Mesurar_Inici();
 std::vector<Figura> Mesurar_Calculs();
 std::vector<Figura> Mesurar_Document_PDF();
 std::vector<Figura> Mesurar_Facturacio();
+std::vector<Figura> Mesurar_Acceptacio();
 std::vector<Figura> Mesurar_Llibre_Factures();

@@ -15,11 +15,11 @@ struct Subjecte {
   const char* nom;
   std::vector<Figura> (*mesurar)();
 };
-constexpr Subjecte subjectes[] = {{"linia", Mesurar_Linia_Albara},     {"tecles", Mesurar_Linia_Per_Tecles},
-                                  {"servidor", Mesurar_Servidor},      {"llista", Mesurar_Llista_Albarans},
-                                  {"mestres", Mesurar_Llista_Mestres}, {"inici", Mesurar_Inici},
-                                  {"calculs", Mesurar_Calculs},        {"pdf", Mesurar_Document_PDF},
-                                  {"facturacio", Mesurar_Facturacio},  {"llibre", Mesurar_Llibre_Factures}};
+constexpr Subjecte subjectes[] = {
+    {"linia", Mesurar_Linia_Albara},     {"tecles", Mesurar_Linia_Per_Tecles}, {"servidor", Mesurar_Servidor},
+    {"llista", Mesurar_Llista_Albarans}, {"mestres", Mesurar_Llista_Mestres},  {"inici", Mesurar_Inici},
+    {"calculs", Mesurar_Calculs},        {"pdf", Mesurar_Document_PDF},        {"facturacio", Mesurar_Facturacio},
+    {"acceptacio", Mesurar_Acceptacio},  {"llibre", Mesurar_Llibre_Factures}};
 
 // Without names, every subject.
 std::vector<Figura> Mesurar(const std::set<std::string>& noms) {
