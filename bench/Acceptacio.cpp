@@ -1,8 +1,6 @@
 // Lines on their way: a proposal's line accepted into the order of the day, an order's line served into the note of the
 // day, and taken back; bare with the same rows written by prepared statements, and nothing read. And the lines of a
 // customer that are pending among those of everybody, read by hand. On a file and on a server.
-#include <cstdlib>
-#include <filesystem>
 
 #include "bench/Mesura.h"
 #include "bench/Motors_Nus.h"
@@ -10,7 +8,6 @@
 #include "sales/M_Acceptacio.h"
 #include "sales/M_Comandes.h"
 #include "sales/M_Tipus_Venda.h"
-#include "tests/regles/Installacio_Prova.h"
 
 namespace {
 
@@ -193,31 +190,8 @@ std::vector<Figura> Mesurar(typename Motor::Base& base, const std::string& on) {
   return figures;
 }
 
-std::vector<Figura> Al_Fitxer() {
-  const Installacio_Prova installacio;
-  Sembrar();
-  const std::string copia = installacio.Dir_Dades() + "/nua.db";
-  std::filesystem::copy_file(sessio.Fitxer_Comu, copia);
-  Base_Nua base(copia);
-  return Mesurar<Amb_SQLite>(base, "");
-}
-
-std::vector<Figura> Al_Servidor() {
-  const Installacio_Prova installacio;
-  Sembrar();
-  Tancar_Connexions();
-  const Base_Servidor copia(installacio.Base()->Nom());
-  Obrir_Connexions();
-  Base_Nua_PG base(copia.Adreca());
-  return Mesurar<Amb_PG>(base, "server: ");
-}
-
 }  // namespace
 
 std::vector<Figura> Mesurar_Acceptacio() {
-  std::vector<Figura> figures = Al_Fitxer();
-  setenv("BROLLADOR_MOTOR", "postgres", 1);
-  for (auto& figura : Al_Servidor()) figures.push_back(std::move(figura));
-  setenv("BROLLADOR_MOTOR", "sqlite", 1);
-  return figures;
+  return Mesurar_Als_Dos(Sembrar, Mesurar<Amb_SQLite>, Mesurar<Amb_PG>);
 }

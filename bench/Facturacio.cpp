@@ -1,7 +1,5 @@
 // The invoicing run: 1,000 delivery notes of ten lines in one invoice, and one by one; bare with the rows of the
 // invoices inserted by prepared statements, and nothing else. On a file and on a server.
-#include <cstdlib>
-#include <filesystem>
 
 #include "bench/Mesura.h"
 #include "bench/Motors_Nus.h"
@@ -9,7 +7,6 @@
 #include "sales/M_Consultes_Venda.h"
 #include "sales/M_Factures.h"
 #include "sales/M_Tipus_Venda.h"
-#include "tests/regles/Installacio_Prova.h"
 
 namespace {
 
@@ -126,31 +123,8 @@ std::vector<Figura> Mesurar(typename Motor::Base& base, const std::string& on) {
           una_a_una.Fer_Figura(on + "each of 1,000 notes in an invoice", "ms", 2.0)};
 }
 
-std::vector<Figura> Al_Fitxer() {
-  const Installacio_Prova installacio;
-  Sembrar();
-  const std::string copia = installacio.Dir_Dades() + "/nua.db";
-  std::filesystem::copy_file(sessio.Fitxer_Comu, copia);
-  Base_Nua base(copia);
-  return Mesurar<Amb_SQLite>(base, "");
-}
-
-std::vector<Figura> Al_Servidor() {
-  const Installacio_Prova installacio;
-  Sembrar();
-  Tancar_Connexions();
-  const Base_Servidor copia(installacio.Base()->Nom());
-  Obrir_Connexions();
-  Base_Nua_PG base(copia.Adreca());
-  return Mesurar<Amb_PG>(base, "server: ");
-}
-
 }  // namespace
 
 std::vector<Figura> Mesurar_Facturacio() {
-  std::vector<Figura> figures = Al_Fitxer();
-  setenv("BROLLADOR_MOTOR", "postgres", 1);
-  for (auto& figura : Al_Servidor()) figures.push_back(std::move(figura));
-  setenv("BROLLADOR_MOTOR", "sqlite", 1);
-  return figures;
+  return Mesurar_Als_Dos(Sembrar, Mesurar<Amb_SQLite>, Mesurar<Amb_PG>);
 }

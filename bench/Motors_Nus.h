@@ -7,6 +7,7 @@
 
 #include "bench/Base_Nua.h"
 #include "bench/Base_Nua_PG.h"
+#include "bench/Mesura.h"
 
 // The same statements by hand on either engine.
 struct Amb_SQLite {
@@ -46,3 +47,8 @@ struct Amb_PG {
     return sentencia.Files();
   }
 };
+
+// The figures of a file and those of a server, each with a copy of what `sembrar` wrote for the work by hand.
+std::vector<Figura> Mesurar_Als_Dos(void (*sembrar)(),
+                                    std::vector<Figura> (*al_fitxer)(Base_Nua& base, const std::string& on),
+                                    std::vector<Figura> (*al_servidor)(Base_Nua_PG& base, const std::string& on));

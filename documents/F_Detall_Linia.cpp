@@ -54,7 +54,7 @@ void Detall_Linia::Muntar() {
                                          [this](const Camp_De_Preu& quin) { Recalcular(quin.mode); });
   graella_lligats_ = Control_De_Nom<Graella>(QStringLiteral("G_LLIGATS"));
   graella_lligats_->Permetre_Ordre(false);
-  graella_lligats_->Columnes({{"DOCUMENT", 1800, "Document"},
+  graella_lligats_->Columnes({{.camp = "DOCUMENT", .amplada = 1800, .titol = "Document", .creix = true},
                               {"NUMERO", 1200, "Número", true},
                               {"DATA", 1300, "Data"},
                               {"UNITATS", 1300, "Unitats", true, dos_decimals}});

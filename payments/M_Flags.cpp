@@ -152,6 +152,7 @@ class Recorregut {
   // The heads of the forms, and the work list as the walk left it, for whoever looks into it afterwards.
   void Desar() {
     flags_.Desar();
+    if (Es_La_Desada()) return;
     Connexio& local = sessio.Connexio_Local;
     Transaccio transaccio(local);
     local.Execute("DELETE * FROM FLAG_PAGAMENTS_TEMP");
@@ -164,6 +165,16 @@ class Recorregut {
   }
 
  private:
+  // Line after line of a note the list is the same, and writing it waits for the terminal's disk each time.
+  bool Es_La_Desada() const {
+    Recordset rs("SELECT * FROM FLAG_PAGAMENTS_TEMP", sessio.Connexio_Local);
+    bool es_igual = rs.RecordCount() == static_cast<std::int64_t>(feina_.Quants());
+    for (std::size_t i = 0; es_igual && !rs.Eof(); rs.MoveNext(), ++i)
+      es_igual = rs["DOCUMENT"].Text() == std::string(1, feina_[i].lletra) &&
+                 rs["NUMALB"].Enter() == feina_[i].numero && Nul_A_Defecte(rs["FLAG"]).Boolea() == (i < fets_);
+    return es_igual;
+  }
+
   void Avaluar_Flag_Pagament(const Document_Pagable& document) {
     if (document.lletra == 'P') return Avaluar_Comanda(document);
     if (document.lletra == 'A') return Avaluar_Albara(document);

@@ -92,6 +92,17 @@ TEST_F(M_Flags, a_document_that_is_there_no_more_changes_nothing) {
   EXPECT_FALSE(Flag_Pagament("F", 77));
 }
 
+TEST_F(M_Flags, the_work_list_holds_the_last_walk_and_is_written_when_it_is_another) {
+  Propagar_Flag_Pagaments("A", 1);
+  EXPECT_EQ(En_La_Llista("DOCUMENT = 'A' AND NUMALB = 1 AND FLAG <> 0"), 1);
+  sessio.Connexio_Local.Execute("UPDATE FLAG_PAGAMENTS_TEMP SET FLAG = 0");
+  Propagar_Flag_Pagaments("A", 1);
+  EXPECT_EQ(En_La_Llista("DOCUMENT = 'A' AND NUMALB = 1 AND FLAG <> 0"), 1);
+  Propagar_Flag_Pagaments("P", 2);
+  EXPECT_EQ(En_La_Llista("DOCUMENT = 'A'"), 0);
+  EXPECT_EQ(En_La_Llista("DOCUMENT = 'P' AND NUMALB = 2 AND FLAG <> 0"), 1);
+}
+
 TEST_F(M_Flags, only_papers_of_the_company_count) {
   Servir(1, 1, 1);
   Executar("UPDATE ALBARALIN SET EMPRESA_AL = EMPRESA_AL");
