@@ -8,6 +8,7 @@
 #include "core/M_Funcions_Comuns.h"
 #include "core/controls/Controls.h"
 #include "core/controls/Focus_Camps.h"
+#include "core/controls/Refus.h"
 #include "core/formularis/Aparenca.h"
 #include "core/formularis/Formularis_Oberts.h"
 #include "core/formularis/Text_Qt.h"
@@ -114,15 +115,17 @@ void Detall_Linia::Mostrar() {
 // What can be typed.
 void Detall_Linia::Mostrar_Camps() {
   text_->setPlainText(Text_Qt(linia_->Linia().contingut.descripcio));
-  unitats_->Numero(Xifres().unitats);
   iva_->setText(Text_Qt(linia_->Codi_IVA()));
   Mostrar_IVA();
   Mostrar_Xifres();
 }
 
 void Detall_Linia::Mostrar_Xifres() {
+  unitats_->Numero(Xifres().unitats);
+  unitats_mostrades_ = unitats_->text();
   preus_->Mostrar(Xifres());
   marge_->Numero(Xifres().marge);
+  marge_mostrat_ = marge_->text();
   import_net_->Numero(Xifres().import_net);
 }
 
@@ -167,7 +170,7 @@ void Detall_Linia::Activar() {
 // What stands in the fields, for the calculation.
 void Detall_Linia::Recalcular(Mode_Calcul mode) {
   Linia_Entrada escrita;
-  escrita.unitats = unitats_->Numero();
+  escrita.unitats = unitats_->text() == unitats_mostrades_ ? Xifres().unitats : unitats_->Numero();
   escrita.dte_article = dte_article_->Numero();
   escrita.iva_article = iva_->text().toStdString();
   preus_->Llegir(escrita);
@@ -177,15 +180,12 @@ void Detall_Linia::Recalcular(Mode_Calcul mode) {
 
 void Detall_Linia::Deixar_Unitats() {
   if (!unitats_->Es_Numeric()) return Retenir_Focus(unitats_);
-  Guardar_Event([this] {
-    Recalcular(Mode_Calcul::Unitats);
-    unitats_->Numero(Xifres().unitats);
-  });
+  Guardar_Event([this] { Recalcular(Mode_Calcul::Unitats); });
 }
 
 void Detall_Linia::Deixar_Marge() {
   if (!marge_->Es_Numeric()) return Retenir_Focus(marge_);
-  linia_->Marge(marge_->Numero());
+  if (marge_->text() != marge_mostrat_) linia_->Marge(marge_->Numero());
 }
 
 // Another type: its code stays in the field when there is no such type, to be typed again.
@@ -200,14 +200,24 @@ void Detall_Linia::Deixar_IVA() {
       [this] { Retenir_Focus(iva_); });
 }
 
+// A field that holds what the line has not taken.
+QWidget* Detall_Linia::Camp_Refusat() const {
+  for (Camp_Numeric* camp : findChildren<Camp_Numeric*>()) {
+    if (!Refus_De(camp).isEmpty()) return camp;
+  }
+  return iva_->text().toStdString() == linia_->Codi_IVA() ? nullptr : iva_;
+}
+
 // Yes or no, the detail closes; it stays when the act fails.
 void Detall_Linia::Fer(const Accio_De_Linia& accio) {
+  if (QWidget* refusat = Camp_Refusat()) return Retenir_Focus(refusat);
   if (Confirmar(accio.pregunta, {})) accio.fer(linia_->Linia());
   Descarregar_Formulari(Nom());
 }
 
 bool Detall_Linia::Desar_En_Tancar() {
   if (!linia_ || editor_ == nullptr || editor_->Nomes_Es_Mira()) return true;
+  const bool te_canvis = linia_->Te_Canvis();
   bool desada = false;
   bool conflicte = false;
   Guardar_Event(
@@ -221,7 +231,7 @@ bool Detall_Linia::Desar_En_Tancar() {
         }
       },
       [&] { Recuperar(conflicte); });
-  return desada || perduda_;
+  return desada || perduda_ || !te_canvis;
 }
 
 // Nothing was written. A line that another terminal changed is shown as it stands.

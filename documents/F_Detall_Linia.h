@@ -52,6 +52,7 @@ class Detall_Linia : public Formulari {
   void Deixar_Unitats();
   void Deixar_Marge();
   void Deixar_IVA();
+  QWidget* Camp_Refusat() const;
   void Fer(const Accio_De_Linia& accio);
   void Recuperar(bool conflicte);
 
@@ -67,6 +68,8 @@ class Detall_Linia : public Formulari {
   Camp_Numeric* import_net_ = nullptr;
   QLineEdit* iva_ = nullptr;
   Graella* graella_lligats_ = nullptr;
+  QString unitats_mostrades_;  // the line may have more decimals than are shown
+  QString marge_mostrat_;
   bool vista_ = false;    // it has been in front
   bool perduda_ = false;  // another terminal deleted the line
 };

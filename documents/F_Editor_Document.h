@@ -39,6 +39,7 @@ struct Descripcio_Editor {
   std::vector<const char*> fixats;               // lines fix these
   std::vector<const char*> desen = {"DT_DATA"};  // a change of these saves the head
   bool amaga_entrada = true;                     // a closed document hides the entry frame; else it is disabled
+  bool tancat_guarda_linies = true;              // no line of a closed document is asked to be deleted
   std::int64_t (*primer_forat)() = nullptr;      // the number that B_Forats proposes; null: no such button
   // Prints it: sessio.Crida_Document tells whether with prices.
   void (*imprimir)(const Tipus_Document& tipus, const Valor& numero, const std::string& empresa, int mode) = nullptr;

@@ -62,7 +62,7 @@ void Editor_Document::Requerir_Linies() {
 }
 
 void Editor_Document::Esborrar_Linia_Actual() {
-  if (graella_linies_->Fila_Actual() < 0 || Tancat()) return;
+  if (graella_linies_->Fila_Actual() < 0 || (Tancat() && descripcio_.tancat_guarda_linies)) return;
   const auto camp = [this](const char* paper) {
     return graella_linies_->Valor_Actual(Tipus().lin.Columna(paper).c_str());
   };
@@ -147,7 +147,7 @@ bool Editor_Document::Desar_En_Tancar() {
 void Editor_Document::Rellegir_Linies() {
   Requerir_Linies();
   Refrescar_Peu();
-  Aplicar_Estat();
+  Mostrar_Estat();
 }
 
 void Editor_Document::Tornar_Del_Detall() {

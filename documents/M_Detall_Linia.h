@@ -46,6 +46,7 @@ class Linia_Oberta {
   const Tipus_Document& Tipus() const { return tipus_; }
   const Linia_Detall& Linia() const { return linia_; }
   bool Fixada() const { return fixada_; }
+  bool Te_Canvis() const { return iva_canviat_ || linia_.contingut != en_obrir_; }
   const std::string& Codi_IVA() const { return codi_iva_; }  // empty when no type has its percentage
   // Percent; nothing for an article that is there no more.
   const std::optional<double>& Descompte_Article() const { return descompte_article_; }

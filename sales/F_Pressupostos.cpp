@@ -54,6 +54,7 @@ const Descripcio_Editor& Editor() {
       .fixats = {"TXT_NUMALB", "CMB_CLIENT_DESC", "CHK_IVA", "CHK_RE"},
       .desen = {"DT_DATA", "CHK_ESTAT"},
       .amaga_entrada = false,
+      .tancat_guarda_linies = false,
       .imprimir = Imprimir_Document,
       .botons = {{u"B_EMAIL", u"F_STATUS"}},
       .detall = u"F_DETALL_LINIA",

@@ -90,16 +90,15 @@ void Marcar_Acceptada(const Lloc_Linia& linia, const Lloc_Linia& desti) {
                 "ESTAT_PL = 0");
 }
 
-// A line goes out of a document, and the document with its last one. `porc_re` as Calcular_Peu_Document takes it.
-void Treure_Linia(const Tipus_Document& tipus, const Lloc_Linia& lloc, double porc_re) {
+// A line goes out of a document, and the document with its last one. `porc_re` as Calcular_Peu_Document takes it. False
+// when it was gone already.
+bool Treure_Linia(const Tipus_Document& tipus, const Lloc_Linia& lloc, double porc_re) {
   if (sessio.Connexio_Comuna.Execute("DELETE * FROM " + std::string(tipus.lin.nom) + Condicio_Linia(tipus, lloc)) == 0)
-    Llancar_Error(errors::concurrencia, std::string(tipus.formulari));
-  if (Comptar_Linies(tipus, lloc.numero, lloc.empresa) == 0) {
-    Esborrar_Document(tipus, lloc.numero, lloc.empresa);
-    return;
-  }
+    return false;
+  if (Comptar_Linies(tipus, lloc.numero, lloc.empresa) == 0) return Esborrar_Document(tipus, lloc.numero, lloc.empresa);
   Buidar_Peu(tipus, lloc.numero, lloc.empresa);
   Calcular_Peu_Document(tipus, lloc.numero, lloc.empresa, porc_re);
+  return true;
 }
 
 // A row of a note that serves an order's line, and its stock.
@@ -132,7 +131,8 @@ std::vector<Entrega> Llegir_Entregues(const Lloc_Linia& comanda, bool& facturade
 
 // The units stand in the statement as their plain text, with a comma: a fraction makes it faulty.
 void Retirar_Entrega(const Lloc_Linia& comanda, const Entrega& entrega, double porc_re) {
-  Treure_Linia(tipus_albara, entrega.lloc, porc_re);
+  if (!Treure_Linia(tipus_albara, entrega.lloc, porc_re))
+    Llancar_Error(errors::concurrencia, std::string(tipus_albara.formulari));
   sessio.Connexio_Comuna.Execute("UPDATE COMANDALIN SET SERVIDES_CL = SERVIDES_CL - " + Text_Numero(entrega.unitats) +
                                  Condicio_Linia(tipus_comanda, comanda));
   entrega.moure(entrega.lloc.numero);

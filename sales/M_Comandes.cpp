@@ -154,7 +154,7 @@ std::string SQL_Comandes_Pendents(const std::string& client, const std::string& 
          "SERVIDES_CL) AS PENDENTS, PORC_MARGE_CL, PREU_UNITARI_CL, PORC_IVA_CL, PVP_CL, DTE_CL FROM COMANDACAP INNER "
          "JOIN COMANDALIN ON (COMANDACAP.EMPRESA_CC = COMANDALIN.EMPRESA_CL) AND (COMANDACAP.NUMALB_CC = "
          "COMANDALIN.NUMALB_CL) WHERE EMPRESA_CC = " +
-         Text_SQL(sessio.Empresa_Actual) + " AND CLIENT_CC = " + Text_SQL(client) +
+         Text_SQL(sessio.Empresa_Actual) + " AND CLIENT_CC = " + Codi_SQL(client) +
          " AND (UNITATS_CL - SERVIDES_CL) > 0" + conte("ARTICLE_CL", article) + conte("DESCRIPCIO_CL", descripcio) +
          " AND ESTAT_CC = 0 ORDER BY DATA_CC";
 }

@@ -144,6 +144,13 @@ TEST_F(M_Acceptacio, a_line_accepted_into_no_order_is_pending_again) {
   EXPECT_FALSE(Acceptada(1));
 }
 
+TEST_F(M_Acceptacio, a_line_whose_order_was_deleted_whole_is_pending_again) {
+  Acceptar_Linia_Pressupost(Linia(5, 1));
+  Executar("DELETE * FROM COMANDACAP WHERE NUMALB_CC = 4");
+  Descartar_Linia_Pressupost(Linia(5, 1));
+  EXPECT_FALSE(Acceptada(1));
+}
+
 TEST_F(M_Acceptacio, without_orders_the_line_goes_into_a_note_and_stays_there) {
   sessio.P_Comandes = "X";
   Acceptar_Linia_Pressupost(Linia(5, 1));
