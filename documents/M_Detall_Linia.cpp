@@ -87,7 +87,6 @@ void Linia_Oberta::Desar(Document_Obert& obert) {
     if (iva_canviat_) Buidar_Peu(tipus_, linia_.cap.numero, linia_.cap.empresa);
     Calcular_Totals(tipus_, linia_.cap.numero, linia_.cap.empresa, obert);
     if (estoc.fer) estoc.fer();
-    if (Passos().desada != nullptr) Passos().desada(linia_);
   });
   en_obrir_ = linia_.contingut;
   iva_canviat_ = false;

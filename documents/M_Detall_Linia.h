@@ -34,8 +34,6 @@ struct Passos_Detall {
   std::string (*lligats)(const Linia_Detall& linia, const Recordset& fila) = nullptr;
   const Accio_De_Linia* acceptar = nullptr;
   const Accio_De_Linia* descartar = nullptr;
-  // It has been written, in the same transaction.
-  void (*desada)(const Linia_Detall& linia) = nullptr;
 };
 
 class Linia_Oberta {

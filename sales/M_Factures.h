@@ -35,7 +35,8 @@ struct Facturacio {
 // Asks first about notes that are invoiced already, and again when that changes meanwhile. One transaction: head, the
 // lines of each note behind a heading, foot, the marks of the notes, flags. False when nothing was made: the user said
 // no, or there are no notes. Raises 1005 when the notes differ in their tax conditions, 13 and 6 for a number that is
-// none, 6 beyond line 32767, the engine's when the number is taken. Nothing is left of a run that raises.
+// none, 6 beyond line 32767, 80040E38 when other terminals keep changing the notes, the engine's when the number is
+// taken. Nothing is left of a run that raises.
 bool Facturar(const Facturacio& facturacio);
 inline constexpr const char* proforma = "PROFORMA";
 

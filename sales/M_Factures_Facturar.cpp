@@ -196,9 +196,11 @@ std::string Llista_Albarans_Seleccionats(const std::vector<std::int64_t>& numero
   return numeros.empty() ? std::string() : " AND NUMALB_AC IN(" + Llista_De_Numeros(numeros) + ")";
 }
 
+// Notes that other terminals change meanwhile are read again, but not for ever.
 bool Facturar(const Facturacio& facturacio) {
+  constexpr int intents = 20;
   std::string acceptat;
-  for (;;) {
+  for (int intent = 0; intent < intents; ++intent) {
     const Albarans albarans = Llegir_Albarans(facturacio.albarans);
     const std::string avis = Albarans_Ja_Facturats(albarans);
     if (!avis.empty() && avis != acceptat && sessio.pantalla->Caixa(avis, estil::si_no) != Resposta::Si) return false;
@@ -219,4 +221,5 @@ bool Facturar(const Facturacio& facturacio) {
       sessio.pantalla->Processar_Events();
     }
   }
+  Llancar_Error(errors::concurrencia, "M_Factures");
 }
